@@ -1,0 +1,61 @@
+// The operations through which every part of the expert reaches projects, units, forms and editors.
+#pragma once
+#include "ide/FormsList.h"
+#include "ide/ToolsApi.h"
+#include "platform/Ui.h"
+
+#include <string>
+#include <string_view>
+
+namespace glotta {
+
+class IdeServices {
+public:
+    IdeServices(BorlandIDEServices ide, FormsList& forms, Ui& ui) : ide_(ide), forms_(forms), ui_(ui) {}
+
+    IOTAProjectGroup* GetActiveProjectGroup();
+    IOTAProject* GetActiveProject();
+    // Without an active project: "Project is NIL!", then EGlottaSilent.
+    IOTAModule* GetModuleFromFileName(const std::string& fileName);
+    IOTASourceEditor* GetSourceEditorFromFileName(const std::string& fileName);
+    IOTASourceEditor* GetSourceEditorFromFormName(const std::string& formName);
+    IOTAModule* GetFormIdeModule(const std::string& formName);
+    IOTAModule* GetCurrentIdeModule();
+    static IOTAFormEditor* GetFormEditorFromModule(IOTAModule* module);
+    static IOTASourceEditor* GetSourceEditorFromModule(IOTAModule* module);
+    IDesigner* GetDesigner(); // of the form selected in the form list
+    IDesigner* GetDesignerByFormName(const std::string& formName);
+    TComponent* GetComponentOnForm(const std::string& formName, const std::string& componentName);
+    TComponent* GetOwnerByName(const std::string& formName);
+    bool IsDataModule(const std::string& formName);
+    // "Unable to obtain the interface of form module! Please check your project source." when it fails.
+    bool TestForCorrectForm(const std::string& formName);
+
+    bool IsFileOpen(const std::string& fileName);
+    bool OpenFile(const std::string& fileName, bool show);
+    bool CloseFile(const std::string& fileName);
+    bool SaveFile(const std::string& fileName);
+    void MarkModifiedForm(const std::string& fileName);
+
+    std::string GetUnitSource(const std::string& fileName);
+    IOTASourceEditor* GetCurrentSourceEditor();
+    std::string GetSelectedSourceText();
+    void ReplaceSelectedSourceText(std::string_view text);
+    // 1-based; only CR LF pairs count.
+    static int GetLineByPos(std::string_view text, std::size_t position);
+    int Pos2Line4CurrentSource(std::size_t position, std::string_view text);
+
+    // 999 while the text being scanned is the editor's selection, else 0.
+    int modeMarker = 0;
+
+    FormsList& Forms() { return forms_; }
+    Ui& GetUi() { return ui_; }
+    BorlandIDEServices Ide() { return ide_; }
+
+private:
+    BorlandIDEServices ide_;
+    FormsList& forms_;
+    Ui& ui_;
+};
+
+} // namespace glotta

@@ -1,0 +1,179 @@
+// The IDE as the expert sees it. A host implements these; the expert calls nothing else of it. Pointers are the
+// host's: valid while the object they name is open; nil means "not there". Text is UTF-8 with CR LF line ends.
+#pragma once
+#include "vcl/Component.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace glotta {
+
+class IOTAModule;
+
+class IOTAEditReader {
+public:
+    virtual ~IOTAEditReader() = default;
+    // At most `count` characters from the 0-based character `position` on. Reading on in order costs no re-decoding.
+    virtual std::string GetText(std::size_t position, std::size_t count) = 0;
+};
+
+// One undoable change of a buffer. Positions are 0-based characters of the text before the change and only grow.
+// The change takes effect, as one undo step, when the writer is destroyed; what was not copied yet is kept.
+class IOTAEditWriter {
+public:
+    virtual ~IOTAEditWriter() = default;
+    virtual void CopyTo(std::size_t position) = 0;
+    virtual void DeleteTo(std::size_t position) = 0;
+    virtual void Insert(std::string_view text) = 0;
+};
+
+// 1-based line and column, columns in characters.
+struct EditPos {
+    int line = 1;
+    int column = 1;
+    auto operator<=>(const EditPos&) const = default;
+};
+
+class IOTAEditView {
+public:
+    virtual ~IOTAEditView() = default;
+    virtual EditPos CursorPos() const = 0;
+    virtual void SetCursorPos(EditPos position) = 0;
+    // The block selection [start, after); both equal when nothing is selected.
+    virtual EditPos BlockStart() const = 0;
+    virtual EditPos BlockAfter() const = 0;
+    virtual void SetBlock(EditPos start, EditPos after) = 0;
+    // Scrolls so that the line shows.
+    virtual void Center(int line) = 0;
+    virtual int TopLine() const = 0;
+};
+
+class IOTAEditor {
+public:
+    virtual ~IOTAEditor() = default;
+    virtual std::string FileName() const = 0;
+    virtual bool Modified() const = 0;
+    virtual void Show() = 0;
+    virtual IOTAModule& Module() = 0;
+};
+
+class IOTASourceEditor : public IOTAEditor {
+public:
+    virtual std::unique_ptr<IOTAEditReader> CreateReader() = 0;
+    virtual std::unique_ptr<IOTAEditWriter> CreateUndoableWriter() = 0;
+    virtual IOTAEditView& View() = 0;
+    // 0-based character position of a place, and back.
+    virtual std::size_t PosToOffset(EditPos position) const = 0;
+    virtual EditPos OffsetToPos(std::size_t offset) const = 0;
+    virtual bool Undo() = 0; // false when there is nothing to undo
+    virtual bool Redo() = 0;
+};
+
+// What an event of a class looks like: its parameter lists. Empty ones for a plain procedure.
+struct MethodType {
+    std::string pascalParameters; // "Sender: TObject"
+    std::string cppParameters;    // "TObject *Sender"
+};
+
+class IDesigner {
+public:
+    virtual ~IDesigner() = default;
+    virtual TComponent& Root() = 0;
+    // Declares the method in the form class and adds an empty body to the unit. A method of that name that is there
+    // already is returned instead (Object Pascal ignores letter case). The result is the method's name as declared.
+    virtual std::string CreateMethod(const std::string& name, const MethodType& type) = 0;
+    virtual void ShowMethod(const std::string& name) = 0;
+    virtual void SelectComponent(TComponent* component) = 0;
+    virtual TComponent* SelectedComponent() = 0;
+    virtual void Modified() = 0;
+};
+
+class IOTAFormEditor;
+
+class IOTAComponent {
+public:
+    virtual ~IOTAComponent() = default;
+    virtual int GetComponentCount() = 0;
+    virtual IOTAComponent* GetComponent(int index) = 0;
+    virtual TComponent* GetComponentHandle() = 0;
+};
+
+class IOTAFormEditor : public IOTAEditor {
+public:
+    virtual IOTAComponent* GetRootComponent() = 0;
+    // Creates a component of the class on the root, with the field in the form class and the unit in `uses` (C++: the
+    // member and the #include), named as the IDE names components. Throws Error when the form cannot take it.
+    virtual TComponent& CreateComponent(const std::string& className) = 0;
+    virtual void MarkModified() = 0;
+    virtual IDesigner& Designer() = 0;
+};
+
+class IOTAModule {
+public:
+    virtual ~IOTAModule() = default;
+    virtual std::string FileName() const = 0;
+    // The name by which the form list refers to the module: its form's name, or the unit name.
+    virtual std::string Name() const = 0;
+    virtual int GetModuleFileCount() const = 0;
+    virtual IOTAEditor* GetModuleFileEditor(int index) = 0;
+    virtual bool Modified() const = 0;
+    virtual bool Save(bool changeName, bool forceSave) = 0;
+    virtual bool Close() = 0;
+};
+
+// A project's entry for a unit, whether it is open or not. Names are as the project file writes them.
+struct IOTAModuleInfo {
+    std::string unitName;  // "Main"
+    std::string fileName;  // full path on disk
+    std::string formName;  // by the form file where there is one, else by the project file; empty without a form
+    std::string annotatedFormName; // by the project file
+    std::string formFile;  // full path of the .dfm or .xfm, empty without one
+    bool missing = false;  // listed, but not on disk
+};
+
+class IOTAProject : public IOTAModule {
+public:
+    virtual const std::vector<IOTAModuleInfo>& Modules() const = 0;
+    virtual bool IsCpp() const = 0;
+};
+
+class IOTAProjectGroup : public IOTAModule {
+public:
+    virtual int ProjectCount() const = 0;
+    virtual IOTAProject* GetProject(int index) = 0;
+    virtual IOTAProject* ActiveProject() = 0;
+    virtual void SetActiveProject(int index) = 0;
+};
+
+class IOTAModuleServices {
+public:
+    virtual ~IOTAModuleServices() = default;
+    virtual int ModuleCount() const = 0;
+    virtual IOTAModule* GetModule(int index) = 0; // open modules in order of opening
+    virtual IOTAModule* CurrentModule() = 0;
+    virtual IOTAModule* FindModule(const std::string& fileName) = 0;
+    virtual IOTAModule* FindFormModule(const std::string& formName) = 0;
+};
+
+class IOTAActionServices {
+public:
+    virtual ~IOTAActionServices() = default;
+    virtual bool OpenFile(const std::string& fileName) = 0; // opens, or brings to front what is open
+    virtual bool CloseFile(const std::string& fileName) = 0;
+    virtual bool SaveFile(const std::string& fileName) = 0;
+};
+
+// All services of a running IDE.
+struct BorlandIDEServices {
+    IOTAModuleServices& modules;
+    IOTAActionServices& actions;
+};
+
+// The module's nature: modules, projects and groups are told apart by the interface they offer.
+inline IOTAProject* AsProject(IOTAModule* module) { return dynamic_cast<IOTAProject*>(module); }
+inline IOTAProjectGroup* AsProjectGroup(IOTAModule* module) { return dynamic_cast<IOTAProjectGroup*>(module); }
+
+} // namespace glotta

@@ -1,0 +1,34 @@
+// The text that takes a literal's place.
+#pragma once
+#include "scanner/SourceFlavour.h"
+#include "settings/SettingsValues.h"
+
+#include <string>
+#include <string_view>
+
+namespace glotta {
+
+enum class Tail : unsigned char { None, Concatenation, Statement }; // "", " + ", ";"
+
+struct ReplacementParts {
+    std::string_view component; // "glotta1", "Form1.glotta1"
+    std::string_view id;
+    std::string_view text;      // the value, kept in a comment
+    Tail tail = Tail::None;
+    bool inBlockComment = false; // the place lies in an open block comment: no inner comment then
+};
+
+// glotta1.GetTextOrDefault('IDS_0' (* 'Hello' *) );
+std::string BuildReplacement(const ReplacementParts& parts, const SourceFlavour& flavour, const SettingsValues& settings);
+
+// The value made fit for a comment: cut by CommentsLength, no line break, no comment end.
+std::string CommentText(std::string_view value, const SourceFlavour& flavour, int commentsLength);
+
+// The component as a call names it: alone, or with its form when the settings or `foreignForm` ask for that.
+std::string ComponentReference(std::string_view form, std::string_view component, bool withForm,
+                               const SourceFlavour& flavour);
+
+// " // TGL: Localized (Don't modify!)", behind a localized constant.
+extern const std::string_view LocalizedComment;
+
+} // namespace glotta

@@ -1,0 +1,56 @@
+// What is known of component classes without their compiled code: ancestors and published properties with their type
+// kinds. The common VCL and CLX classes and the TGlotta classes are built in.
+#pragma once
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/Text.h"
+
+namespace glotta {
+
+// The type kinds of run-time type information, by its own names.
+enum class TTypeKind : unsigned char {
+    tkUnknown, tkInteger, tkChar, tkEnumeration, tkFloat, tkString, tkSet, tkClass, tkMethod, tkWChar, tkLString,
+    tkWString, tkVariant, tkArray, tkRecord, tkInterface, tkInt64, tkDynArray
+};
+std::string_view TypeKindName(TTypeKind kind); // "tkLString"
+
+struct PropertyInfo {
+    std::string name;
+    std::string typeName; // "TCaption", "TStrings", "TNotifyEvent"
+    TTypeKind kind;
+};
+
+struct ClassInfo {
+    std::string name;
+    std::string parent; // empty for TPersistent
+    std::string unit;   // the unit that declares it ("StdCtrls")
+    std::vector<PropertyInfo> properties; // those the class itself publishes
+};
+
+class ClassCatalogue {
+public:
+    static const ClassCatalogue& BuiltIn();
+
+    // Class names compare without regard to letter case. Nil when unknown.
+    const ClassInfo* Find(std::string_view className) const;
+    // True for the class itself and every ancestor; false for unknown classes (but true when equal).
+    bool InheritsFrom(std::string_view className, std::string_view ancestor) const;
+    // Inherited ones first, each name once.
+    std::vector<const PropertyInfo*> PublishedProperties(std::string_view className) const;
+    const PropertyInfo* FindProperty(std::string_view className, std::string_view property) const;
+
+    // The parameter list of an event type as Object Pascal writes it, "Sender: TObject" for TNotifyEvent, and for C++
+    // ("TObject *Sender"). Empty for an unknown type.
+    static std::string_view PascalParameters(std::string_view eventType);
+    static std::string_view CppParameters(std::string_view eventType);
+
+    void Add(ClassInfo info);
+
+private:
+    std::unordered_map<std::string, ClassInfo, TextHash, TextEqual> classes_;
+};
+
+} // namespace glotta

@@ -1,0 +1,4 @@
+#pragma once
+#include "../src/pch.h"
+
+#include <gtest/gtest.h>
