@@ -1,4 +1,5 @@
-// UTF-8 text: characters are code points, letter case follows Unicode (simple mappings).
+// UTF-8 text: characters are code points, letter case follows Unicode (simple mappings, never from a non-ASCII
+// character to an ASCII one). Changing the case keeps the number of characters, not always that of bytes.
 #pragma once
 #include <cstddef>
 #include <string>
@@ -7,7 +8,7 @@
 
 namespace glotta {
 
-// Number of characters of a text. Runs at memory speed; ASCII text costs no decoding.
+// Number of characters of a well-formed text. Runs at memory speed; ASCII text costs no decoding.
 std::size_t CharCount(std::string_view text);
 // Byte offset of the character with the 0-based index `chars`; the text's size when there are fewer.
 std::size_t ByteOffset(std::string_view text, std::size_t chars);
