@@ -1,0 +1,7 @@
+unit ExtCtrls;
+interface
+uses Controls;
+type
+  TPanel = class(TControl);
+implementation
+end.

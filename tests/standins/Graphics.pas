@@ -1,0 +1,4 @@
+unit Graphics;
+interface
+implementation
+end.

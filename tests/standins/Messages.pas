@@ -1,0 +1,4 @@
+unit Messages;
+interface
+implementation
+end.
