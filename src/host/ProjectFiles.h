@@ -27,7 +27,7 @@ struct ProjectDescription {
     std::filesystem::path file;       // as it was named, absolute
     std::filesystem::path mainSource; // the .dpr, .dpk or project .cpp; empty when there is none on disk
     ProjectKind kind = ProjectKind::DelphiProgram;
-    std::optional<unsigned> codePage; // a hint only
+    std::optional<unsigned> codePage; // a hint only; 65001 for UTF-8
     std::vector<ProjectEntry> entries; // in the project's order, each file once
     std::vector<std::string> problems; // one line each, with the file's name: what was passed over
 
@@ -53,6 +53,8 @@ bool IsProjectGroupFile(const std::filesystem::path& file);
 bool IsProjectFile(const std::filesystem::path& file);
 
 // Throw Error when the file itself cannot be read or understood; what it lists is never a reason to.
+// One resolver for all projects of a group saves listing their folders anew.
+ProjectDescription ReadProject(const std::filesystem::path& file, PathResolver& paths);
 ProjectDescription ReadProject(const std::filesystem::path& file);
 ProjectGroupDescription ReadProjectGroup(const std::filesystem::path& file);
 

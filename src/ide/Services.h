@@ -47,12 +47,15 @@ public:
 
     // 999 while the text being scanned is the editor's selection, else 0.
     int modeMarker = 0;
+    // Brought to the top when a form cannot be reached; nil while it is not open.
+    TForm* mainWindow = nullptr;
 
     FormsList& Forms() { return forms_; }
     Ui& GetUi() { return ui_; }
     BorlandIDEServices Ide() { return ide_; }
 
 private:
+    IOTAProject& RequireActiveProject();
     BorlandIDEServices ide_;
     FormsList& forms_;
     Ui& ui_;

@@ -1,0 +1,238 @@
+#include "host/ProjectFiles.h"
+#include "host/ProjectEntries.h"
+#include "platform/Encoding.h"
+#include "platform/Error.h"
+#include "platform/Text.h"
+#include "vcl/FormFile.h"
+
+#include <array>
+#include <fstream>
+
+namespace glotta {
+namespace {
+
+namespace fs = std::filesystem;
+
+enum class Format { None, DelphiSource, Xml, XmlOrMakefile, UseMacros, MakefileGroup, XmlGroup };
+
+struct FormatOfExtension {
+    std::string_view extension;
+    Format format;
+    bool isCpp;
+};
+constexpr FormatOfExtension formats[] = {
+    {".dpr", Format::DelphiSource, false}, {".dpk", Format::DelphiSource, false},
+    {".bdsproj", Format::Xml, false},      {".dproj", Format::Xml, false},
+    {".cbproj", Format::Xml, true},        {".bpr", Format::XmlOrMakefile, true},
+    {".bpk", Format::XmlOrMakefile, true}, {".cpp", Format::UseMacros, true},
+    {".bpg", Format::MakefileGroup, false}, {".bdsgroup", Format::XmlGroup, false},
+    {".groupproj", Format::XmlGroup, false}};
+
+FormatOfExtension FormatOf(const fs::path& file) {
+    const std::string extension = LowerExtension(PathText(file));
+    for (const FormatOfExtension& entry : formats)
+        if (entry.extension == extension)
+            return entry;
+    return {{}, Format::None, false};
+}
+
+bool IsGroup(Format format) { return format == Format::MakefileGroup || format == Format::XmlGroup; }
+
+std::string ReadText(const fs::path& file) {
+    const std::string bytes = ReadFile(file);
+    return Decode(bytes, DetectEncoding(bytes));
+}
+
+ProjectListing ReadListing(const fs::path& file, const FormatOfExtension& format) {
+    const std::string text = ReadText(file);
+    switch (format.format) {
+    case Format::DelphiSource: return ListDelphiSource(text);
+    case Format::UseMacros: return ListUseMacros(text);
+    case Format::XmlOrMakefile:
+        if (!IsXml(text))
+            return ListMakefileProject(text);
+        [[fallthrough]];
+    case Format::Xml: return ListXmlProject(text, PathText(file));
+    default: throw Error(PathText(file) + ": not a Delphi or C++Builder project");
+    }
+}
+
+fs::path Absolute(const fs::path& file) { return fs::absolute(file).lexically_normal(); }
+
+// The file beside the project with another extension, whatever its letter case.
+std::optional<fs::path> Beside(PathResolver& paths, const fs::path& file, const std::string& extension) {
+    return paths.Resolve(file.parent_path(), PathText(file.stem()) + extension);
+}
+
+// The main source: where the project file says, else the file of the project's name.
+void FindMainSource(ProjectDescription& project, const std::string& written, PathResolver& paths) {
+    if (!written.empty()) {
+        bool missing = false;
+        const fs::path source = ResolveOrNative(paths, project.file.parent_path(), written, missing);
+        if (!missing)
+            project.mainSource = source;
+        else
+            project.problems.push_back(PathText(project.file) + ": main source '" + written + "' is missing");
+        return;
+    }
+    for (const char* extension : {".dpr", ".dpk", ".cpp"})
+        if (project.IsCpp() == (std::string_view(extension) == ".cpp"))
+            if (const auto source = Beside(paths, project.file, extension)) {
+                project.mainSource = source->lexically_normal();
+                return;
+            }
+}
+
+ProjectKind KindOf(const ProjectListing& listing, const fs::path& source) {
+    return LowerExtension(PathText(source)) == ".dpk" ? ProjectKind::DelphiPackage : listing.kind;
+}
+
+// A .dpr or .dpk named itself: its options file knows the code page, and more of the forms.
+void ReadOptionsFile(ProjectDescription& project, ProjectEntries& entries, PathResolver& paths) {
+    for (const char* extension : {".dproj", ".bdsproj", ".dof"}) {
+        const auto file = Beside(paths, project.file, extension);
+        if (!file)
+            continue;
+        try {
+            if (std::string_view(extension) == ".dof") {
+                project.codePage = FindCodePageLine(ReadText(*file));
+                return;
+            }
+            const ProjectListing options = ListXmlProject(ReadText(*file), file->string());
+            project.codePage = options.codePage;
+            entries.Supplement(project.file.parent_path(), options.units);
+        } catch (const Error& error) {
+            project.problems.emplace_back(error.what());
+        }
+        return;
+    }
+}
+
+// The units of a Delphi project file come from its main source; those of a C++Builder one from both.
+void AddMainSourceUnits(ProjectDescription& project, ProjectEntries& entries, ProjectListing listing) {
+    const fs::path folder = project.file.parent_path();
+    if (project.mainSource.empty()) {
+        entries.Add(folder, std::move(listing.units));
+        return;
+    }
+    const FormatOfExtension format = FormatOf(project.mainSource);
+    const bool isSource = format.format == Format::DelphiSource || format.format == Format::UseMacros;
+    ProjectListing source;
+    if (isSource)
+        source = ReadListing(project.mainSource, format);
+    const fs::path sourceFolder = project.mainSource.parent_path();
+    if (project.IsCpp() || !isSource) {
+        entries.Add(folder, std::move(listing.units));
+        entries.Add(sourceFolder, std::move(source.units));
+        return;
+    }
+    project.kind = KindOf(source, project.mainSource);
+    entries.Add(sourceFolder, std::move(source.units));
+    entries.Supplement(folder, listing.units);
+}
+
+// Only the file's first block is read. Empty when the file does not begin as a form; opening it will say why.
+std::string RootName(const fs::path& formFile) {
+    if (formFile.empty())
+        return {};
+    std::array<char, 4096> block;
+    std::ifstream stream(formFile, std::ios::binary);
+    stream.read(block.data(), block.size());
+    try {
+        return FormFile::PeekHead({block.data(), static_cast<std::size_t>(stream.gcount())}, PathText(formFile)).name;
+    } catch (const Error&) {
+        return {};
+    }
+}
+
+} // namespace
+
+bool IsProjectGroupFile(const fs::path& file) { return IsGroup(FormatOf(file).format); }
+
+bool IsProjectFile(const fs::path& file) {
+    const Format format = FormatOf(file).format;
+    if (format == Format::UseMacros)
+        return !ListUseMacros(ReadText(file)).units.empty();
+    return format != Format::None && !IsGroup(format);
+}
+
+ProjectDescription ReadProject(const fs::path& file) {
+    PathResolver paths;
+    return ReadProject(file, paths);
+}
+
+ProjectDescription ReadProject(const fs::path& file, PathResolver& paths) {
+    const FormatOfExtension format = FormatOf(file);
+    ProjectDescription project;
+    project.file = Absolute(file);
+    ProjectListing listing = ReadListing(project.file, format);
+    project.codePage = listing.codePage;
+    ProjectEntries entries(project, paths);
+    if (format.format == Format::DelphiSource || format.format == Format::UseMacros) {
+        project.mainSource = project.file;
+        project.kind = KindOf(listing, project.file);
+        entries.Add(project.file.parent_path(), std::move(listing.units));
+        if (!format.isCpp)
+            ReadOptionsFile(project, entries, paths);
+        return project;
+    }
+    const bool isCpp = format.isCpp || LowerExtension(listing.mainSource) == ".cpp";
+    project.kind = isCpp ? ProjectKind::CppBuilder : ProjectKind::DelphiProgram;
+    FindMainSource(project, listing.mainSource, paths);
+    AddMainSourceUnits(project, entries, std::move(listing));
+    return project;
+}
+
+ProjectGroupDescription ReadProjectGroup(const fs::path& file) {
+    ProjectGroupDescription group;
+    group.file = Absolute(file);
+    const Format format = FormatOf(file).format;
+    if (!IsGroup(format))
+        throw Error(PathText(group.file) + ": not a project group");
+    const std::string text = ReadText(group.file);
+    const GroupListing listing =
+        format == Format::MakefileGroup ? ListMakefileGroup(text) : ListXmlGroup(text, PathText(group.file));
+
+    PathResolver paths;
+    std::unordered_map<std::string, std::size_t> byFile;
+    std::optional<std::size_t> active, present;
+    for (const GroupListing::Project& project : listing.projects) {
+        ProjectGroupEntry entry{project.path, {}, false};
+        entry.file = ResolveOrNative(paths, group.file.parent_path(), project.path, entry.missing);
+        const auto [known, isNew] = byFile.try_emplace(PathText(entry.file), group.projects.size());
+        const bool named = SameFileName(project.name, listing.active) || SameFileName(project.path, listing.active);
+        if (!listing.active.empty() && named && !entry.missing)
+            active = known->second;
+        if (!isNew)
+            continue;
+        if (entry.missing)
+            group.problems.push_back(PathText(group.file) + ": project '" + project.path + "' is missing");
+        else if (!present)
+            present = known->second;
+        group.projects.push_back(std::move(entry));
+    }
+    group.activeIndex = static_cast<int>(active.value_or(present.value_or(0)));
+    return group;
+}
+
+std::vector<IOTAModuleInfo> ModuleInfos(const ProjectDescription& project) {
+    std::vector<IOTAModuleInfo> infos;
+    infos.reserve(project.entries.size());
+    for (const ProjectEntry& entry : project.entries) {
+        IOTAModuleInfo info;
+        info.unitName = entry.unitName;
+        info.fileName = PathText(entry.file);
+        info.annotatedFormName = entry.annotatedFormName;
+        info.formFile = PathText(entry.formFile);
+        info.missing = entry.missing;
+        // A CoClass annotation names an interface's class, not a form.
+        if (entry.designClass != "CoClass" || !info.formFile.empty())
+            info.formName = entry.annotatedFormName;
+        if (std::string name = RootName(entry.formFile); !name.empty())
+            info.formName = std::move(name);
+        infos.push_back(std::move(info));
+    }
+    return infos;
+}
+
+} // namespace glotta
