@@ -11,11 +11,16 @@ namespace glotta {
 
 std::string ReadFile(const std::filesystem::path& file);
 
-// Replaces one file atomically: written beside, flushed, renamed; permissions of an existing file are kept.
+// UTF-8 text of a path and back, on every system.
+std::string PathText(const std::filesystem::path& path);
+std::filesystem::path PathFromText(std::string_view text);
+
+// Replaces one file atomically: written beside, flushed, renamed; permissions of an existing file are kept. A
+// symbolic link stays and its target is replaced. A file that may not be written is an Error.
 void WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes);
 
 // Several files, all or none: every file is prepared beside its target before the first is replaced, and a failure
-// while replacing puts back what was already replaced.
+// while replacing puts back what was already replaced. Of two contents for one file the later counts.
 class FileTransaction {
 public:
     void Add(std::filesystem::path file, std::string bytes);
@@ -43,7 +48,8 @@ private:
 };
 
 // Resolves a path as a project file writes it ('..\Units\Main.pas') against a folder: backslashes are separators,
-// each part is matched exactly first and then without regard to letter case. Nothing when it does not exist.
+// each part is matched exactly first and then without regard to letter case ('..' is taken from the path's text).
+// Nothing when it does not exist.
 // Folder listings are cached per call object; use one for a whole project.
 class PathResolver {
 public:
@@ -65,5 +71,7 @@ std::string LowerExtension(std::string_view fileName);
 
 // The user's configuration directory for this system: $XDG_CONFIG_HOME/glotta, ~/.config/glotta, %APPDATA%\glotta.
 std::filesystem::path UserConfigDir();
+// The path that an environment variable holds; nothing when it is unset or empty.
+std::optional<std::filesystem::path> PathFromEnvironment(const char* name);
 
 } // namespace glotta

@@ -5,7 +5,9 @@
 namespace glotta {
 namespace {
 
-bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
+bool IsBlank(char c) {
+    return static_cast<unsigned char>(c) <= ' ';
+}
 
 // The text inside the quotes at `pos`, doubled quotes halved; pos moves behind the closing quote.
 std::string ExtractQuoted(std::string_view text, std::size_t& pos) {
@@ -13,8 +15,7 @@ std::string ExtractQuoted(std::string_view text, std::size_t& pos) {
     for (++pos; pos < text.size(); ++pos) {
         if (text[pos] == '"') {
             ++pos;
-            if (pos >= text.size() || text[pos] != '"')
-                break;
+            if (pos >= text.size() || text[pos] != '"') break;
         }
         result += text[pos];
     }
@@ -25,8 +26,7 @@ std::string ExtractQuoted(std::string_view text, std::size_t& pos) {
 
 int TStringList::Add(std::string item) {
     const int index = static_cast<int>(items_.size());
-    if (indexed_)
-        index_.try_emplace(UpperCase(item), index);
+    if (indexed_) index_.try_emplace(UpperCase(item), index);
     items_.push_back(std::move(item));
     return index;
 }
@@ -46,7 +46,9 @@ void TStringList::Delete(std::size_t index) {
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
 }
 
-void TStringList::Clear() { Assign({}); }
+void TStringList::Clear() {
+    Assign({});
+}
 
 void TStringList::Assign(std::vector<std::string> items) {
     indexed_ = false;
@@ -71,18 +73,18 @@ std::string TStringList::Text() const {
     return result;
 }
 
-void TStringList::SetText(std::string_view text) { Assign(SplitLines(text)); }
+void TStringList::SetText(std::string_view text) {
+    Assign(SplitLines(text));
+}
 
 std::string TStringList::CommaText() const {
-    if (items_.size() == 1 && items_[0].empty())
-        return "\"\"";
+    if (items_.size() == 1 && items_[0].empty()) return "\"\"";
     std::string result;
     for (std::size_t i = 0; i < items_.size(); ++i) {
         const std::string& item = items_[i];
         const bool quote =
             std::any_of(item.begin(), item.end(), [](char c) { return IsBlank(c) || c == '"' || c == ','; });
-        if (i > 0)
-            result += ',';
+        if (i > 0) result += ',';
         result += quote ? '"' + ReplaceStr(item, "\"", "\"\"") + '"' : item;
     }
     return result;
@@ -107,8 +109,7 @@ void TStringList::SetCommaText(std::string_view text) {
         }
         skipBlanks();
         if (pos < text.size() && text[pos] == ',') {
-            if (++pos == text.size())
-                items.emplace_back();
+            if (++pos == text.size()) items.emplace_back();
             skipBlanks();
         }
     }

@@ -18,25 +18,14 @@ Word LoadWord(const char* at) {
 }
 
 // One in each byte that continues a character (10xxxxxx).
-Word Continuations(Word word) { return (word >> 7) & ~(word >> 6) & Ones; }
-std::size_t SumOfBytes(Word word) { return (word * Ones) >> 56; }
-bool IsContinuation(char byte) { return (Byte(byte) & 0xC0) == 0x80; }
-
-// Length of the well-formed character at `pos`, 0 when there is none.
-std::size_t CharLength(std::string_view text, std::size_t pos) {
-    const Byte lead = Byte(text[pos]);
-    if (lead < 0x80)
-        return 1;
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() - pos < length)
-        return 0;
-    for (std::size_t i = 1; i < length; ++i)
-        if (!IsContinuation(text[pos + i]))
-            return 0;
-    const Byte second = Byte(text[pos + 1]);
-    const bool overlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
-    const bool outside = (lead == 0xED && second >= 0xA0) || (lead == 0xF4 && second >= 0x90);
-    return overlong || outside ? 0 : length;
+Word Continuations(Word word) {
+    return (word >> 7) & ~(word >> 6) & Ones;
+}
+std::size_t SumOfBytes(Word word) {
+    return (word * Ones) >> 56;
+}
+bool IsContinuation(char byte) {
+    return (Byte(byte) & 0xC0) == 0x80;
 }
 
 std::string MapCase(std::string_view text, char32_t (*map)(char32_t)) {
@@ -69,6 +58,19 @@ char32_t NextUpper(std::string_view text, std::size_t& pos) {
 
 } // namespace
 
+std::size_t CharLength(std::string_view text, std::size_t pos) {
+    const Byte lead = Byte(text[pos]);
+    if (lead < 0x80) return 1;
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() - pos < length) return 0;
+    for (std::size_t i = 1; i < length; ++i)
+        if (!IsContinuation(text[pos + i])) return 0;
+    const Byte second = Byte(text[pos + 1]);
+    const bool overlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
+    const bool outside = (lead == 0xED && second >= 0xA0) || (lead == 0xF4 && second >= 0x90);
+    return overlong || outside ? 0 : length;
+}
+
 std::size_t CharCount(std::string_view text) {
     std::size_t continuations = 0, pos = 0;
     for (; pos + sizeof(Word) <= text.size(); pos += sizeof(Word))
@@ -82,14 +84,12 @@ std::size_t ByteOffset(std::string_view text, std::size_t chars) {
     std::size_t pos = 0;
     while (pos + sizeof(Word) <= text.size()) {
         const std::size_t starts = sizeof(Word) - SumOfBytes(Continuations(LoadWord(text.data() + pos)));
-        if (starts > chars)
-            break;
+        if (starts > chars) break;
         chars -= starts;
         pos += sizeof(Word);
     }
     for (; pos < text.size(); ++pos)
-        if (!IsContinuation(text[pos]) && chars-- == 0)
-            return pos;
+        if (!IsContinuation(text[pos]) && chars-- == 0) return pos;
     return text.size();
 }
 
@@ -99,8 +99,7 @@ std::string_view CharPrefix(std::string_view text, std::size_t chars) {
 
 char32_t NextChar(std::string_view text, std::size_t& pos) {
     const std::size_t length = CharLength(text, pos);
-    if (length <= 1)
-        return length == 1 ? Byte(text[pos++]) : (++pos, U'\uFFFD');
+    if (length <= 1) return length == 1 ? Byte(text[pos++]) : (++pos, U'\uFFFD');
     char32_t character = Byte(text[pos]) & (0x7F >> length);
     for (std::size_t i = 1; i < length; ++i)
         character = (character << 6) | (Byte(text[pos + i]) & 0x3F);
@@ -124,29 +123,35 @@ void AppendChar(std::string& text, char32_t character) {
     }
 }
 
-bool IsAscii(std::string_view text) {
+std::size_t FindNonAscii(std::string_view text, std::size_t pos) {
     constexpr std::size_t Stride = 4 * sizeof(Word);
-    std::size_t pos = 0;
     for (; pos + Stride <= text.size(); pos += Stride) {
         const char* at = text.data() + pos;
-        if ((LoadWord(at) | LoadWord(at + 8) | LoadWord(at + 16) | LoadWord(at + 24)) & (Ones * 0x80))
-            return false;
+        if ((LoadWord(at) | LoadWord(at + 8) | LoadWord(at + 16) | LoadWord(at + 24)) & (Ones * 0x80)) break;
     }
-    for (; pos < text.size(); ++pos)
-        if (Byte(text[pos]) >= 0x80)
-            return false;
-    return true;
+    while (pos < text.size() && Byte(text[pos]) < 0x80)
+        ++pos;
+    return std::min(pos, text.size());
 }
 
-std::string UpperCase(std::string_view text) { return MapCase(text, CaseMapUpper); }
-std::string LowerCase(std::string_view text) { return MapCase(text, CaseMapLower); }
-char32_t UpperCase(char32_t character) { return CaseMapUpper(character); }
+bool IsAscii(std::string_view text) {
+    return FindNonAscii(text) == text.size();
+}
+
+std::string UpperCase(std::string_view text) {
+    return MapCase(text, CaseMapUpper);
+}
+std::string LowerCase(std::string_view text) {
+    return MapCase(text, CaseMapLower);
+}
+char32_t UpperCase(char32_t character) {
+    return CaseMapUpper(character);
+}
 
 bool SameText(std::string_view a, std::string_view b) {
     std::size_t i = 0, j = 0;
     while (i < a.size() && j < b.size())
-        if (NextUpper(a, i) != NextUpper(b, j))
-            return false;
+        if (NextUpper(a, i) != NextUpper(b, j)) return false;
     return i == a.size() && j == b.size();
 }
 
@@ -154,8 +159,7 @@ int CompareText(std::string_view a, std::string_view b) {
     std::size_t i = 0, j = 0;
     while (i < a.size() && j < b.size()) {
         const char32_t x = NextUpper(a, i), y = NextUpper(b, j);
-        if (x != y)
-            return x < y ? -1 : 1;
+        if (x != y) return x < y ? -1 : 1;
     }
     return int(i < a.size()) - int(j < b.size());
 }
@@ -163,8 +167,7 @@ int CompareText(std::string_view a, std::string_view b) {
 bool StartsWithText(std::string_view text, std::string_view prefix) {
     std::size_t i = 0, j = 0;
     while (i < text.size() && j < prefix.size())
-        if (NextUpper(text, i) != NextUpper(prefix, j))
-            return false;
+        if (NextUpper(text, i) != NextUpper(prefix, j)) return false;
     return j == prefix.size();
 }
 
@@ -182,7 +185,9 @@ std::string_view TrimRight(std::string_view text) {
     return text.substr(0, end);
 }
 
-std::string_view Trim(std::string_view text) { return TrimLeft(TrimRight(text)); }
+std::string_view Trim(std::string_view text) {
+    return TrimLeft(TrimRight(text));
+}
 
 std::string ReplaceStr(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
@@ -207,8 +212,7 @@ std::vector<std::string> SplitLines(std::string_view text) {
 std::string JoinLines(const std::vector<std::string>& lines, std::string_view separator) {
     std::string result;
     for (const std::string& line : lines) {
-        if (&line != lines.data())
-            result += separator;
+        if (&line != lines.data()) result += separator;
         result += line;
     }
     return result;

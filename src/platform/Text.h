@@ -18,6 +18,10 @@ std::string_view CharPrefix(std::string_view text, std::size_t chars);
 char32_t NextChar(std::string_view text, std::size_t& pos);
 void AppendChar(std::string& text, char32_t character);
 bool IsAscii(std::string_view text);
+// Offset of the first byte from `pos` on that is not ASCII; the text's size when there is none.
+std::size_t FindNonAscii(std::string_view text, std::size_t pos = 0);
+// Bytes of the well-formed character at byte `pos` (pos < size); 0 when the bytes there are malformed.
+std::size_t CharLength(std::string_view text, std::size_t pos);
 
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);

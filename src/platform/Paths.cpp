@@ -1,0 +1,70 @@
+// Paths as text, and the places that the system gives.
+#include "platform/Files.h"
+
+#include "platform/Text.h"
+
+#include <cstdlib>
+
+#ifndef _WIN32
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
+namespace glotta {
+namespace {
+
+bool IsSeparator(char c) {
+    return c == '/' || c == '\\';
+}
+
+std::string WithSlashes(std::string_view text) {
+    std::string result(text);
+    std::replace(result.begin(), result.end(), '\\', '/');
+    return result;
+}
+
+} // namespace
+
+std::string PathText(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::filesystem::path PathFromText(std::string_view text) {
+    return std::filesystem::path(std::u8string(text.begin(), text.end()));
+}
+
+bool SameFileName(std::string_view a, std::string_view b) {
+    return SameText(WithSlashes(a), WithSlashes(b));
+}
+
+std::string LowerExtension(std::string_view fileName) {
+    for (std::size_t at = fileName.size(); at-- > 0 && !IsSeparator(fileName[at]);)
+        if (fileName[at] == '.') return LowerCase(fileName.substr(at));
+    return {};
+}
+
+std::optional<std::filesystem::path> PathFromEnvironment(const char* name) {
+#ifdef _WIN32
+    const wchar_t* value = _wgetenv(std::wstring(name, name + std::char_traits<char>::length(name)).c_str());
+#else
+    const char* value = std::getenv(name);
+#endif
+    if (!value || !*value) return {};
+    return std::filesystem::path(value);
+}
+
+std::filesystem::path UserConfigDir() {
+#ifdef _WIN32
+    return PathFromEnvironment("APPDATA").value_or(".") / "glotta";
+#else
+    // A relative XDG_CONFIG_HOME is to be ignored.
+    if (const auto xdg = PathFromEnvironment("XDG_CONFIG_HOME"); xdg && xdg->is_absolute())
+        return *xdg / "glotta";
+    if (const auto home = PathFromEnvironment("HOME")) return *home / ".config" / "glotta";
+    const passwd* user = getpwuid(getuid());
+    return std::filesystem::path(user && user->pw_dir ? user->pw_dir : "/") / ".config" / "glotta";
+#endif
+}
+
+} // namespace glotta
