@@ -7,6 +7,9 @@
 
 namespace glotta {
 
+// What follows a literal expression: nothing to note, a concatenation with something else, the statement's semicolon.
+enum class Tail : unsigned char { None, Concatenation, Statement }; // "", " + ", ";"
+
 struct TgxFoundSourceString {
     std::string ID;
     std::string SourceText;  // the literal expression as it stands in the source, without what follows it
@@ -16,6 +19,9 @@ struct TgxFoundSourceString {
     int Column = 0;          // 0-based, in characters
     std::string Replacement; // ends with the tail " + " or ";" when the expression has one
     std::size_t Begin = 0, End = 0; // bytes of the expression in the buffer's text
+    std::size_t TailEnd = 0;        // end of the tail; Replacement stands for bytes [Begin, TailEnd)
+    Tail FollowedBy = Tail::None;
+    bool InBlockComment = false;    // the place lies in an open block comment that COMMENTEND would close
     std::string Constant;    // CONST-section scan: the constant's name
     std::string Note;        // why a call cannot stand there; empty when it can
     bool Ignored = false;    // review mark: the line gets the ignore marker

@@ -1,5 +1,6 @@
 // The text that takes a literal's place.
 #pragma once
+#include "scanner/FoundStrings.h"
 #include "scanner/SourceFlavour.h"
 #include "settings/SettingsValues.h"
 
@@ -7,8 +8,6 @@
 #include <string_view>
 
 namespace glotta {
-
-enum class Tail : unsigned char { None, Concatenation, Statement }; // "", " + ", ";"
 
 struct ReplacementParts {
     std::string_view component; // "glotta1", "Form1.glotta1"
@@ -20,6 +19,10 @@ struct ReplacementParts {
 
 // glotta1.GetTextOrDefault('IDS_0' (* 'Hello' *) );
 std::string BuildReplacement(const ReplacementParts& parts, const SourceFlavour& flavour, const SettingsValues& settings);
+
+// Builds the row's replacement anew, after its identifier was changed.
+void RebuildReplacement(TgxFoundSourceString& row, std::string_view component, const SourceFlavour& flavour,
+                        const SettingsValues& settings);
 
 // The value made fit for a comment: cut by CommentsLength, no line break, no comment end.
 std::string CommentText(std::string_view value, const SourceFlavour& flavour, int commentsLength);

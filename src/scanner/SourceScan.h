@@ -23,10 +23,16 @@ public:
 
     // The rules for one decoded literal. `a` and `b` are its place for the comment test, 0-based; -1 and 0: not known.
     TStringSkipReason IsExcludeString(std::string_view value, int a, int b, bool isCpp) const;
+    // The same when the comment test was made already.
+    TStringSkipReason IsExcludeString(std::string_view value, bool inComment) const;
     // The line contains one of the SkipLines phrases.
     bool SkipsLine(std::string_view line) const;
 
 private:
+    template <typename CommentTest>
+    TStringSkipReason Exclude(std::string_view value, const CommentTest& inComment) const;
+    bool IsExcludedChar(char32_t character) const;
+
     SettingsValues settings_;
     const HelperLibrary& helper_;
     std::vector<std::string> skipLines_; // upper-cased

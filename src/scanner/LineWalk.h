@@ -1,0 +1,29 @@
+// Which lines a scan looks at, by the marker comments.
+#pragma once
+#include "scanner/SourceFlavour.h"
+
+#include <string_view>
+
+namespace glotta {
+
+class LineWalk {
+public:
+    explicit LineWalk(const SourceFlavour& flavour) : flavour_(flavour) {}
+
+    // For a scan that starts behind `above`: whether that leaves a region open.
+    void StartBelow(std::string_view above);
+    // Takes the next line (without its end); true when it is to be scanned. Leave() then follows.
+    bool Enter(std::string_view line);
+    void Leave();
+
+private:
+    const SourceFlavour& flavour_;
+    bool InIgnore = false;
+    bool IgnoreNextOnly = false;
+    bool TranslateNext = false;
+};
+
+// Searches for a marker without regard to letter case.
+bool ContainsMarker(std::string_view line, std::string_view marker);
+
+} // namespace glotta

@@ -1,0 +1,224 @@
+#include "scanner/SourceScan.h"
+
+#include "ide/SourceTokens.h"
+#include "runtime/CustomLang.h"
+#include "scanner/CallPlaces.h"
+#include "scanner/CommentTest.h"
+#include "scanner/ConstDeclarations.h"
+#include "scanner/ContinuedLiteral.h"
+#include "scanner/LineWalk.h"
+#include "scanner/LiteralReader.h"
+#include "scanner/ReplacementText.h"
+#include "scanner/StringIdentifiers.h"
+
+namespace glotta {
+namespace {
+
+constexpr auto Nowhere = std::string_view::npos;
+
+struct Line {
+    std::size_t begin, end; // without its end; a selection may start inside it
+    int number;             // 0-based
+};
+
+class Scan {
+public:
+    Scan(const ScanInput& input, const ScanRules& rules);
+    ScanOutput Run();
+
+private:
+    void ScanLine(const Line& line);
+    bool FindValidDelimitor(std::size_t from, const Line& line, LiteralStart& start);
+    bool AllowsConstants(const Line& line);
+    std::size_t TakeLiteral(const LiteralStart& start, const Line& line);
+    void TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment, const Line& line);
+    bool IsLocalized(const LiteralStart& start) const;
+    void AddFound(const LiteralStart& start, LiteralExpression expression, const Line& line);
+    void SkipString(std::string_view text, std::size_t place, TStringSkipReason reason, const Line& line);
+    std::string_view WhyNoCall(std::size_t begin, std::size_t end);
+    bool InOpenBlockComment(std::size_t place);
+
+    const ScanInput& input_;
+    const ScanRules& rules_;
+    const std::string_view text_;
+    const SourceFlavour& flavour_;
+    const LiteralReader reader_;
+    CharPlaces places_;
+    CommentTest comments_;
+    StringIdentifiers ids_;
+    ContinuedLiteral continued_;
+    std::size_t consumed_ = 0; // a constant's expression may end in a later line
+    bool joined_ = false;      // the last line's constant goes on in the next
+    std::unique_ptr<CallPlaces> calls_;
+    std::unique_ptr<ConstDeclarations> constants_;
+    std::optional<std::vector<ByteRange>> openComments_; // without a comment test
+    ScanOutput output_;
+};
+
+Scan::Scan(const ScanInput& input, const ScanRules& rules)
+    : input_(input), rules_(rules), text_(input.text), flavour_(*input.flavour), reader_(text_, flavour_),
+      places_(text_), comments_(text_, flavour_.IsCPPSource, rules.Helper(), places_),
+      ids_(rules.Settings(), input.idsInUse) {}
+
+ScanOutput Scan::Run() {
+    if (input_.constMode) {
+        if (flavour_.IsCPPSource) return {};
+        calls_ = std::make_unique<CallPlaces>(text_, false);
+        constants_ = std::make_unique<ConstDeclarations>(text_, calls_->ConstSections());
+    }
+    const std::size_t end = std::min(input_.end, text_.size());
+    std::size_t pos = std::min(input_.begin, end);
+    LineWalk walk(flavour_);
+    walk.StartBelow(text_.substr(0, pos));
+    int number = CountChar(text_.substr(0, pos), '\n');
+    const char delimiter = flavour_.STRDELIM[0];
+    std::size_t nextDelimiter = text_.find(delimiter, pos);
+    for (; pos < end; ++number) {
+        const std::size_t feed = std::min(text_.find('\n', pos), end);
+        Line line{pos, feed, number};
+        while (line.end > line.begin && text_[line.end - 1] == '\r')
+            --line.end;
+        if (nextDelimiter < pos) nextDelimiter = text_.find(delimiter, pos);
+        if (walk.Enter(text_.substr(line.begin, line.end - line.begin))) {
+            if (nextDelimiter < line.end || continued_.Open() || constants_) ScanLine(line);
+            walk.Leave();
+        } else {
+            continued_.Skip(text_, line.begin, line.end);
+        }
+        pos = feed + 1;
+    }
+    return std::move(output_);
+}
+
+void Scan::ScanLine(const Line& line) {
+    if (constants_ && !AllowsConstants(line)) return;
+    std::size_t from = continued_.Skip(text_, std::max(line.begin, consumed_), line.end);
+    LiteralStart start;
+    while (from < line.end && FindValidDelimitor(from, line, start))
+        from = TakeLiteral(start, line);
+}
+
+// Whether the line's literals can be constants: it holds a "=", or goes on with a declaration that does.
+bool Scan::AllowsConstants(const Line& line) {
+    const std::string_view text = text_.substr(line.begin, line.end - line.begin);
+    if (TrimRight(text).ends_with(LocalizedComment)) return false;
+    const auto* declaration = constants_->At(line.begin);
+    const bool goesOn = declaration && (joined_ || declaration->aggregate);
+    joined_ = joined_ && declaration;
+    return goesOn || text.find('=') != Nowhere;
+}
+
+bool Scan::FindValidDelimitor(std::size_t from, const Line& line, LiteralStart& start) {
+    if (!reader_.Find(from, line.end, start)) return false;
+    const std::string_view before = text_.substr(from, start.open - from);
+    if (before.find("//") != Nowhere) return false;
+    const std::string_view rest = text_.substr(from, line.end - from);
+    if (ContainsMarker(rest, flavour_.IGNORELINE) || before.find(flavour_.STARTIGNORE) != Nowhere) {
+        SkipString(rest, from, ssByIgnoreTag, line);
+        return false;
+    }
+    // What the line does not hold its rest does not either.
+    if (from == line.begin && rules_.SkipsLine(rest)) {
+        SkipString(rest, from, ssrByLine, line);
+        return false;
+    }
+    return true;
+}
+
+// Returns where the search goes on.
+std::size_t Scan::TakeLiteral(const LiteralStart& start, const Line& line) {
+    const bool inComment = comments_.At(start.open);
+    if (inComment && (start.close == Nowhere || !comments_.InOne(start.open, start.close))) return start.open + 1;
+    if (start.close == Nowhere) {
+        continued_.Begin(text_, start, line.end);
+        return line.end;
+    }
+    const auto* constant = constants_ ? constants_->At(start.open) : nullptr;
+    if (constants_ && !inComment && !constant) return start.close;
+    const std::string_view content = text_.substr(start.contentBegin, start.contentEnd - start.contentBegin);
+    if (static_cast<long long>(CharCount(content)) <= rules_.Settings().IgnorableLength) return start.close;
+
+    LiteralExpression expression = reader_.Decode(start.begin, constant ? constant->end + 1 : line.end);
+    const std::size_t end = expression.end;
+    if (constant) {
+        const std::size_t lineEnd = std::max(line.end, std::min(text_.find("\r\n", end), text_.size()));
+        joined_ = !IsStringTerminated(text_.substr(start.open, lineEnd - start.open), flavour_);
+        consumed_ = end;
+    }
+    if (!IsLocalized(start)) TakeExpression(start, std::move(expression), inComment, line);
+    return end;
+}
+
+void Scan::TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment, const Line& line) {
+    const TStringSkipReason reason = rules_.IsExcludeString(expression.value, inComment);
+    if (reason == ssrNone)
+        AddFound(start, std::move(expression), line);
+    else
+        SkipString(expression.value, start.begin, reason, line);
+}
+
+// The literal is the identifier of a look-up call already.
+bool Scan::IsLocalized(const LiteralStart& start) const {
+    if (start.open == 0 || text_[start.open - 1] != '(') return false;
+    return std::any_of(TextGetterNames.begin(), TextGetterNames.end(), [&](std::string_view method) {
+        return start.open >= method.size() && SameText(text_.substr(start.open - method.size(), method.size()), method);
+    });
+}
+
+void Scan::AddFound(const LiteralStart& start, LiteralExpression expression, const Line& line) {
+    TgxFoundSourceString& found = output_.found.AddItem();
+    found.Begin = start.begin;
+    found.End = expression.end;
+    found.TailEnd = expression.tailEnd;
+    found.FollowedBy = expression.tail;
+    found.InBlockComment = InOpenBlockComment(start.begin);
+    found.SourceText = text_.substr(found.Begin, found.End - found.Begin);
+    found.Value = std::move(expression.value);
+    found.Position = places_.Before(found.Begin) + 1;
+    found.Line = line.number;
+    const std::size_t lineBegin = found.Begin == 0 ? 0 : text_.rfind('\n', found.Begin - 1) + 1;
+    found.Column = static_cast<int>(CharCount(text_.substr(lineBegin, found.Begin - lineBegin)));
+    found.Note = WhyNoCall(found.Begin, found.End);
+    if (constants_) {
+        found.Constant = constants_->At(start.open)->name;
+        found.ID = ids_.ForConstant(found.Constant);
+    } else {
+        found.ID = ids_.ForCode();
+    }
+    RebuildReplacement(found, input_.component, flavour_, rules_.Settings());
+    if (input_.onFound) input_.onFound(output_.found.Count());
+}
+
+void Scan::SkipString(std::string_view text, std::size_t place, TStringSkipReason reason, const Line& line) {
+    const std::size_t position = places_.Before(place) + 1;
+    output_.skipped.push_back({.Text = std::string(text),
+                               .SourcePos = input_.constMode ? 0 : position,
+                               .ConstPos = input_.constMode ? position : 0,
+                               .Reason = reason,
+                               .Line = line.number});
+}
+
+std::string_view Scan::WhyNoCall(std::size_t begin, std::size_t end) {
+    if (constants_) return constants_->IsWholeTokens(begin, end) ? "" : "cuts a token";
+    if (!calls_) calls_ = std::make_unique<CallPlaces>(text_, flavour_.IsCPPSource);
+    return calls_->WhyNot(begin, end);
+}
+
+bool Scan::InOpenBlockComment(std::size_t place) {
+    if (rules_.Helper().HasCommentTest()) return false; // such a place is skipped
+    if (!openComments_) {
+        openComments_ = FindComments(text_, flavour_.IsCPPSource);
+        std::erase_if(*openComments_, [&](const ByteRange& comment) {
+            return !text_.substr(comment.begin).starts_with(flavour_.COMMENTSTART);
+        });
+    }
+    const auto next = std::upper_bound(openComments_->begin(), openComments_->end(), place,
+                                       [](std::size_t at, const ByteRange& comment) { return at < comment.begin; });
+    return next != openComments_->begin() && place < std::prev(next)->end;
+}
+
+} // namespace
+
+ScanOutput ScanSource(const ScanInput& input, const ScanRules& rules) { return Scan(input, rules).Run(); }
+
+} // namespace glotta
