@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace glotta {
 
@@ -57,6 +58,7 @@ std::string FindMethod(std::string_view header, std::string_view className, std:
 // The body of a method in a unit: `open` is just behind its begin (or "{"), `close` at its end (or "}").
 struct MethodBody {
     std::size_t open, close;
+    std::vector<std::string> parameters; // names, as the body's heading has them
 };
 std::optional<MethodBody> FindMethodBody(std::string_view text, bool isCpp, std::string_view className,
                                          std::string_view name);
