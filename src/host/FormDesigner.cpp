@@ -1,0 +1,23 @@
+#include "host/FormDesigner.h"
+
+#include "platform/Error.h"
+
+namespace glotta {
+
+std::string PlainDesigner::CreateMethod(const std::string& name, const MethodType& type) {
+    const std::string& formClass = Root().ClassName();
+    std::string declared = unit_.FindMethod(formClass, name);
+    if (!declared.empty()) return declared;
+    unit_.AddMethod(formClass, name, type, heritage_.InheritedCall(name, type));
+    return name;
+}
+
+void PlainDesigner::RenameComponent(TComponent& component, const std::string& newName) {
+    if (TComponent* other = Root().FindComponent(newName); other && other != &component)
+        throw Error("a component named " + newName + " already exists");
+    if (&component != &Root()) unit_.RenameField(Root().ClassName(), component.Name(), newName);
+    component.SetName(newName);
+    Modified();
+}
+
+} // namespace glotta

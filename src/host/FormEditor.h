@@ -1,0 +1,65 @@
+// The form of an open module: its components over the form file.
+#pragma once
+#include "host/FormDesigner.h"
+#include "host/FormUnit.h"
+#include "ide/ToolsApi.h"
+#include "vcl/Component.h"
+#include "vcl/FormFile.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace glotta {
+
+// One component as the interfaces show it; the handles live as long as the form is open.
+class PlainComponent : public IOTAComponent {
+public:
+    explicit PlainComponent(TComponent& component) : component_(component) {}
+    int GetComponentCount() override { return static_cast<int>(component_.Components().size()); }
+    IOTAComponent* GetComponent(int index) override;
+    TComponent* GetComponentHandle() override { return &component_; }
+
+private:
+    TComponent& component_;
+    std::unordered_map<TComponent*, std::unique_ptr<PlainComponent>> children_;
+};
+
+class PlainFormEditor : public IOTAFormEditor {
+public:
+    // Throws Error for a form file that cannot be read.
+    PlainFormEditor(IOTAModule& module, std::string fileName, std::string_view bytes, unsigned codePage,
+                    FormUnit unit, FindAncestorForm findAncestor, std::function<void()> onShow);
+
+    std::string FileName() const override { return fileName_; }
+    bool Modified() const override { return modified_; }
+    void Show() override { onShow_(); }
+    IOTAModule& Module() override { return module_; }
+    IOTAComponent* GetRootComponent() override { return &rootHandle_; }
+    TComponent& CreateComponent(const std::string& className) override;
+    void MarkModified() override { modified_ = true; }
+    PlainDesigner& Designer() override { return designer_; }
+
+    ComponentTree& Tree() { return tree_; }
+    // The form file's bytes. Throws Error when a text cannot be expressed.
+    std::string Bytes();
+    void MarkSaved() { modified_ = false; }
+
+private:
+    std::string FreeName(const std::string& className);
+
+    IOTAModule& module_;
+    std::string fileName_;
+    FormFile file_;
+    FormUnit unit_;
+    FormHeritage heritage_;
+    ComponentTree tree_;
+    PlainComponent rootHandle_;
+    PlainDesigner designer_;
+    std::function<void()> onShow_;
+    bool modified_ = false;
+};
+
+} // namespace glotta

@@ -1,0 +1,108 @@
+#include "host/FormUnit.h"
+
+#include "host/PragmaLink.h"
+#include "ide/UnitEdits.h"
+#include "platform/Error.h"
+
+namespace glotta {
+namespace {
+
+// Edits of one text that follow each other, each computed on what the ones before leave.
+class Steps {
+public:
+    explicit Steps(const std::string& text) : text_(text) {}
+    const std::string& Text() const { return text_; }
+    void Add(TextEdits edits) {
+        text_ = ApplyEdits(text_, edits);
+        groups_.push_back(std::move(edits));
+    }
+    void ApplyTo(PlainSourceEditor& editor) { editor.Apply(std::move(groups_)); }
+
+private:
+    std::string text_;
+    std::vector<TextEdits> groups_;
+};
+
+// Fills the empty body of a method.
+TextEdits AddStatement(std::string_view text, bool isCpp, const std::string& formClass,
+                       const std::string& name, const std::string& statement) {
+    if (statement.empty()) return {};
+    const auto body = FindMethodBody(text, isCpp, formClass, name);
+    if (!body) throw Error("the new method " + formClass + "." + name + " has no body");
+    const std::string indent(isCpp ? 4 : 2, ' ');
+    return {{body->open, body->open, "\r\n" + indent + statement}};
+}
+
+} // namespace
+
+const PlainSourceEditor& FormUnit::DeclaringEditor() const {
+    if (!isCpp_) return source_;
+    if (!header_) throw Error(source_.FileName() + ": the unit's header is missing");
+    return *header_;
+}
+
+std::string FormUnit::ClassParent(const std::string& formClass) const {
+    return isCpp_ && !header_ ? std::string() : ClassParent(isCpp_, Declaration(), formClass);
+}
+
+std::string FormUnit::ClassParent(bool isCpp, std::string_view declaration, const std::string& formClass) {
+    return isCpp ? cpp::ClassParent(declaration, formClass) : pascal::ClassParent(declaration, formClass);
+}
+
+void FormUnit::AddComponent(const std::string& formClass, const std::string& name,
+                            const std::string& className, const std::string& unit) {
+    Steps declaration(Declaration());
+    if (!isCpp_) {
+        declaration.Add(pascal::AddField(declaration.Text(), formClass, name, className));
+        declaration.Add(pascal::AddInterfaceUses(declaration.Text(), unit));
+        return declaration.ApplyTo(source_);
+    }
+    declaration.Add(cpp::AddMember(declaration.Text(), formClass, name, className));
+    declaration.Add(cpp::AddInclude(declaration.Text(), unit + ".hpp", false));
+    Steps source(source_.Buffer().Text());
+    source.Add(AddPragmaLink(source.Text(), unit));
+    declaration.ApplyTo(DeclaringEditor());
+    source.ApplyTo(source_);
+}
+
+void FormUnit::RenameField(const std::string& formClass, const std::string& name,
+                           const std::string& newName) {
+    if (!isCpp_)
+        source_.Apply({pascal::RemoveOrRenameField(source_.Buffer().Text(), formClass, name, newName)});
+}
+
+std::string FormUnit::FindMethod(const std::string& formClass, const std::string& name) const {
+    return isCpp_ && !header_ ? std::string() : FindMethod(isCpp_, Declaration(), formClass, name);
+}
+
+std::string FormUnit::FindMethod(bool isCpp, std::string_view declaration, const std::string& formClass,
+                                 const std::string& name) {
+    return isCpp ? cpp::FindMethod(declaration, formClass, name)
+                 : pascal::FindMethod(declaration, formClass, name);
+}
+
+void FormUnit::AddMethod(const std::string& formClass, const std::string& name, const MethodType& type,
+                         const std::string& statement) {
+    Steps source(source_.Buffer().Text());
+    TextEdits declaration;
+    if (isCpp_) {
+        declaration = cpp::AddMethodDeclaration(Declaration(), formClass, name, type.cppParameters);
+        source.Add(cpp::AddMethodBody(source.Text(), formClass, name, type.cppParameters));
+    } else {
+        source.Add(pascal::AddMethod(source.Text(), formClass, name, type.pascalParameters));
+    }
+    source.Add(AddStatement(source.Text(), isCpp_, formClass, name, statement));
+    if (isCpp_) DeclaringEditor().Apply({std::move(declaration)});
+    source.ApplyTo(source_);
+}
+
+void FormUnit::ShowMethod(const std::string& formClass, const std::string& name) {
+    const auto body = FindMethodBody(source_.Buffer().Text(), isCpp_, formClass, name);
+    if (!body) return;
+    const EditPos place = source_.Buffer().ByteToPos(body->open);
+    source_.Show();
+    source_.View().SetCursorPos({place.line + 1, 1});
+    source_.View().Center(place.line);
+}
+
+} // namespace glotta

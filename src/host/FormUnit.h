@@ -1,0 +1,51 @@
+// The unit behind a form: where its class is declared and its methods have their bodies. Every operation
+// computes all its edits before the first text changes, and does nothing to what is there already.
+#pragma once
+#include "host/SourceEditor.h"
+#include "ide/ToolsApi.h"
+
+#include <string>
+
+namespace glotta {
+
+class FormUnit {
+public:
+    // `header` is nil for Object Pascal, and for a C++ unit whose header is not on disk.
+    FormUnit(PlainSourceEditor& source, PlainSourceEditor* header, bool isCpp)
+        : source_(source), header_(header), isCpp_(isCpp) {}
+
+    bool IsCpp() const { return isCpp_; }
+    PlainSourceEditor& Source() { return source_; }
+
+    // The text that declares the form's class: the unit, or its C++ header.
+    const std::string& Declaration() const { return DeclaringEditor().Buffer().Text(); }
+    std::string ClassParent(const std::string& formClass) const;
+    static std::string ClassParent(bool isCpp, std::string_view declaration, const std::string& formClass);
+
+    // The field, and the component's unit in `uses` (C++: member, #include and #pragma link).
+    void AddComponent(const std::string& formClass, const std::string& name, const std::string& className,
+                      const std::string& unit);
+    void RenameField(const std::string& formClass, const std::string& name, const std::string& newName);
+
+    // The method as declared, empty when it is not.
+    std::string FindMethod(const std::string& formClass, const std::string& name) const;
+    static std::string FindMethod(bool isCpp, std::string_view declaration, const std::string& formClass,
+                                  const std::string& name);
+    // Declares the method with an empty body, or with one that holds `statement` alone.
+    void AddMethod(const std::string& formClass, const std::string& name, const MethodType& type,
+                   const std::string& statement);
+    // Puts the cursor into the method's body.
+    void ShowMethod(const std::string& formClass, const std::string& name);
+
+private:
+    const PlainSourceEditor& DeclaringEditor() const;
+    PlainSourceEditor& DeclaringEditor() {
+        return const_cast<PlainSourceEditor&>(static_cast<const FormUnit*>(this)->DeclaringEditor());
+    }
+
+    PlainSourceEditor& source_;
+    PlainSourceEditor* header_;
+    bool isCpp_;
+};
+
+} // namespace glotta

@@ -1,0 +1,115 @@
+#include "host/Module.h"
+
+#include "platform/Error.h"
+#include "platform/Files.h"
+
+namespace glotta {
+namespace {
+
+unsigned FormCodePage(std::optional<Encoding> told, std::optional<Encoding> hint, const Encoding& unit) {
+    for (const auto& encoding : {told, hint, std::optional(unit)})
+        if (encoding && encoding->kind == EncodingKind::CodePage) return encoding->codePage;
+    return Encoding().codePage;
+}
+
+} // namespace
+
+// --- one source file
+// -------------------------------------------------------------------------------------------------
+
+OpenSource::OpenSource(ModuleHost& host, IOTAModule& module, std::filesystem::path file,
+                       std::optional<Encoding> hint)
+    : file_(std::move(file)), bytes_(host.Files().Read(file_)),
+      editor_(module, PathText(file_), DecodeUnit(bytes_, host.ToldEncoding(), hint),
+              [&host, &module] { host.ShowModule(module); }) {}
+
+void OpenSource::AddChange(std::vector<FileChange>& changes) const {
+    if (editor_.Modified()) changes.push_back({file_, bytes_, editor_.Bytes()});
+}
+
+void OpenSource::MarkSaved(const std::vector<FileChange>& changes) {
+    TakeSavedBytes(changes, file_, bytes_);
+    editor_.MarkSaved();
+}
+
+void TakeSavedBytes(const std::vector<FileChange>& changes, const std::filesystem::path& file,
+                    std::string& bytes) {
+    for (const FileChange& change : changes)
+        if (change.file == file) bytes = change.newBytes;
+}
+
+// --- module
+// ----------------------------------------------------------------------------------------------------------
+
+PlainModule::PlainModule(ModuleHost& host, ModuleFiles files, std::optional<Encoding> hint)
+    : host_(host), files_(std::move(files)), source_(host, *this, files_.unit, hint) {
+    if (!files_.header.empty()) header_ = std::make_unique<OpenSource>(host, *this, files_.header, hint);
+    editors_.push_back(&source_.Editor());
+    if (!files_.form.empty()) OpenForm(hint);
+    if (header_) editors_.push_back(&header_->Editor());
+}
+
+void PlainModule::OpenForm(std::optional<Encoding> hint) {
+    try {
+        formBytes_ = host_.Files().Read(files_.form);
+        const Encoding& encoding = source_.Editor().Buffer().Unit().encoding;
+        form_ = std::make_unique<PlainFormEditor>(
+            *this, PathText(files_.form), formBytes_, FormCodePage(host_.ToldEncoding(), hint, encoding),
+            FormUnit(source_.Editor(), Header(), files_.isCpp),
+            [this](const std::string& formClass) { return host_.FindAncestor(*this, formClass); },
+            [this] { host_.ShowModule(*this); });
+        editors_.push_back(form_.get());
+    } catch (const Error& error) {
+        host_.AddProblem(error.what());
+    }
+}
+
+std::string PlainModule::FileName() const {
+    return PathText(files_.unit);
+}
+
+std::string PlainModule::Name() const {
+    return form_ ? form_->Designer().Root().Name() : PathText(files_.unit.stem());
+}
+
+IOTAEditor* PlainModule::GetModuleFileEditor(int index) {
+    return index >= 0 && index < GetModuleFileCount() ? editors_[static_cast<std::size_t>(index)] : nullptr;
+}
+
+bool PlainModule::Modified() const {
+    return std::any_of(editors_.begin(), editors_.end(),
+                       [](const IOTAEditor* editor) { return editor->Modified(); });
+}
+
+bool PlainModule::Save(bool /*changeName*/, bool /*forceSave*/) {
+    const std::vector<FileChange> changes = Changes();
+    host_.Files().Save(changes);
+    MarkSaved(changes);
+    return true;
+}
+
+std::vector<FileChange> PlainModule::Changes() {
+    std::vector<FileChange> changes;
+    if (form_ && form_->Modified()) changes.push_back({files_.form, formBytes_, form_->Bytes()});
+    if (header_) header_->AddChange(changes);
+    source_.AddChange(changes);
+    return changes;
+}
+
+void PlainModule::MarkSaved(const std::vector<FileChange>& changes) {
+    source_.MarkSaved(changes);
+    if (header_) header_->MarkSaved(changes);
+    if (form_) {
+        TakeSavedBytes(changes, files_.form, formBytes_);
+        form_->MarkSaved();
+    }
+}
+
+std::vector<std::filesystem::path> PlainModule::Paths() const {
+    std::vector<std::filesystem::path> paths{files_.unit};
+    for (const auto& path : {files_.header, files_.form})
+        if (!path.empty()) paths.push_back(path);
+    return paths;
+}
+
+} // namespace glotta

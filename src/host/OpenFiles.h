@@ -1,0 +1,63 @@
+// What open modules need of their IDE, and what the IDE needs of them.
+#pragma once
+#include "host/FileStore.h"
+#include "host/FormHeritage.h"
+#include "host/SourceEditor.h"
+#include "platform/Encoding.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace glotta {
+
+class ModuleHost {
+public:
+    virtual ~ModuleHost() = default;
+    virtual FileStore& Files() = 0;
+    virtual void ShowModule(IOTAModule& module) = 0;
+    virtual bool CloseModule(IOTAModule& module) = 0;
+    virtual std::optional<AncestorForm> FindAncestor(const IOTAModule& asking,
+                                                     const std::string& formClass) = 0;
+    virtual void AddProblem(std::string problem) = 0;
+    // The user's explicit wish.
+    virtual std::optional<Encoding> ToldEncoding() const = 0;
+};
+
+// A module's side that only its host sees.
+class OpenFiles {
+public:
+    virtual ~OpenFiles() = default;
+    // The modified files and their new bytes, in the order in which they are written. Throws Error when a
+    // text cannot be expressed.
+    virtual std::vector<FileChange> Changes() = 0;
+    // The changes reached the store.
+    virtual void MarkSaved(const std::vector<FileChange>& changes) = 0;
+    // All files that the module holds open.
+    virtual std::vector<std::filesystem::path> Paths() const = 0;
+};
+
+// A source file of a module, with the bytes that it was opened or saved with.
+class OpenSource {
+public:
+    OpenSource(ModuleHost& host, IOTAModule& module, std::filesystem::path file,
+               std::optional<Encoding> hint);
+
+    const std::filesystem::path& Path() const { return file_; }
+    PlainSourceEditor& Editor() { return editor_; }
+    void AddChange(std::vector<FileChange>& changes) const;
+    void MarkSaved(const std::vector<FileChange>& changes);
+
+private:
+    std::filesystem::path file_;
+    std::string bytes_;
+    PlainSourceEditor editor_;
+};
+
+// Takes the new bytes of `file`, when it is among the changes.
+void TakeSavedBytes(const std::vector<FileChange>& changes, const std::filesystem::path& file,
+                    std::string& bytes);
+
+} // namespace glotta

@@ -1,0 +1,242 @@
+#include "host/PlainIde.h"
+
+#include "host/FileKeys.h"
+#include "host/ProjectEntries.h"
+#include "platform/Error.h"
+#include "platform/Files.h"
+#include "platform/Text.h"
+#include "runtime/CustomLang.h"
+
+namespace glotta {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The form of a unit that no project lists, found as for those that one lists.
+fs::path FormOf(const fs::path& unit) {
+    PathResolver paths;
+    ProjectDescription alone;
+    ProjectEntries entries(alone, paths);
+    ListedUnit listed;
+    listed.path = PathText(unit.filename());
+    entries.Add(unit.parent_path(), {std::move(listed)});
+    return alone.entries.empty() ? fs::path() : alone.entries.front().formFile;
+}
+
+fs::path HeaderOf(const fs::path& unit) {
+    if (LowerExtension(PathText(unit)) != ".cpp") return {};
+    const fs::path header = Beside(unit, ".h");
+    return header.empty() ? Beside(unit, ".hpp") : header;
+}
+
+} // namespace
+
+PlainIde::PlainIde() {
+    RegisterGlottaClasses();
+}
+PlainIde::~PlainIde() = default;
+
+// --- projects
+// --------------------------------------------------------------------------------------------------------
+
+template <class Module> Module& PlainIde::Adopt(std::unique_ptr<Module> module) {
+    Module& result = *module;
+    for (const fs::path& path : result.Paths())
+        byFile_.emplace(FileKey(path), &result);
+    modules_.push_back({std::move(module), &result});
+    return result;
+}
+
+IOTAModule& PlainIde::OpenProject(const std::string& fileName, std::optional<Encoding> told) {
+    const fs::path file = OnDisk(fileName);
+    if (IOTAModule* open = FindModule(PathText(file))) return *open;
+    told_ = told;
+    if (IsProjectGroupFile(file))
+        return Adopt(std::make_unique<PlainProjectGroup>(Host(), ReadProjectGroup(file)));
+    return Adopt(std::make_unique<PlainProject>(Host(), ReadProject(file)));
+}
+
+std::vector<PlainProject*> PlainIde::Projects() {
+    std::vector<PlainProject*> projects;
+    for (const Entry& entry : modules_) {
+        if (auto* project = dynamic_cast<PlainProject*>(entry.module.get())) {
+            projects.push_back(project);
+        } else if (auto* group = dynamic_cast<PlainProjectGroup*>(entry.module.get())) {
+            group->ActiveProject();
+            for (PlainProject* loaded : group->LoadedProjects())
+                projects.push_back(loaded);
+        }
+    }
+    return projects;
+}
+
+std::pair<PlainProject*, const IOTAModuleInfo*> PlainIde::FindEntry(const fs::path& file) {
+    for (PlainProject* project : Projects())
+        if (const IOTAModuleInfo* info = project->FindEntry(file)) return {project, info};
+    return {nullptr, nullptr};
+}
+
+std::string PlainIde::TextOf(const fs::path& file, std::optional<Encoding> hint) {
+    if (auto* open = dynamic_cast<PlainModule*>(FindModule(PathText(file)))) {
+        const bool isHeader =
+            open->Header() && FileKey(PathFromText(open->Header()->FileName())) == FileKey(file);
+        return (isHeader ? *open->Header() : open->Source()).Buffer().Text();
+    }
+    return DecodeUnit(files_.Read(file), told_, hint).text;
+}
+
+std::optional<AncestorForm> PlainIde::FindAncestor(const IOTAModule& asking, const std::string& formClass) {
+    std::vector<PlainProject*> projects = Projects();
+    const fs::path asker = PathFromText(asking.FileName());
+    std::stable_partition(projects.begin(), projects.end(),
+                          [&](const PlainProject* project) { return project->FindEntry(asker) != nullptr; });
+    for (PlainProject* project : projects) {
+        const IOTAModuleInfo* info = project->FindFormClass(formClass);
+        if (!info) continue;
+        const fs::path unit = PathFromText(info->fileName);
+        AncestorForm form{formClass, IsCppSource(unit), {}, {}, info->formFile};
+        const fs::path declaring = form.isCpp ? HeaderOf(unit) : unit;
+        try {
+            form.formBytes = files_.Read(PathFromText(info->formFile));
+            if (!declaring.empty()) form.declaration = TextOf(declaring, project->EncodingHint());
+        } catch (const Error& error) {
+            AddProblem(error.what());
+        }
+        return form;
+    }
+    return std::nullopt;
+}
+
+// --- modules
+// ---------------------------------------------------------------------------------------------------------
+
+IOTAModule* PlainIde::GetModule(int index) {
+    return index >= 0 && index < ModuleCount() ? modules_[static_cast<std::size_t>(index)].module.get()
+                                               : nullptr;
+}
+
+IOTAModule* PlainIde::FindModule(const std::string& fileName) {
+    const std::string key = FileKey(OnDisk(fileName));
+    if (const auto found = byFile_.find(key); found != byFile_.end()) return found->second;
+    // Projects of a group are read when they are needed, so their files are not in the table.
+    for (const Entry& entry : modules_)
+        if (auto* group = dynamic_cast<PlainProjectGroup*>(entry.module.get()))
+            for (PlainProject* project : group->LoadedProjects())
+                for (const fs::path& path : project->Paths())
+                    if (FileKey(path) == key) return project;
+    return nullptr;
+}
+
+IOTAModule* PlainIde::FindFormModule(const std::string& formName) {
+    for (const Entry& entry : modules_) {
+        auto* module = dynamic_cast<PlainModule*>(entry.module.get());
+        if (module && module->Form() && SameText(module->Name(), formName)) return module;
+    }
+    return nullptr;
+}
+
+void PlainIde::ShowModule(IOTAModule& module) {
+    std::erase(shown_, &module);
+    shown_.push_back(&module);
+}
+
+PlainModule& PlainIde::OpenUnit(const fs::path& file) {
+    const auto [project, info] = FindEntry(file);
+    ModuleFiles files;
+    files.unit = info ? PathFromText(info->fileName) : file;
+    files.isCpp = IsCppSource(file);
+    files.form = info ? PathFromText(info->formFile) : FormOf(file);
+    files.header = HeaderOf(file);
+    return Adopt(std::make_unique<PlainModule>(Host(), std::move(files),
+                                               project ? project->EncodingHint() : std::nullopt));
+}
+
+bool PlainIde::OpenFile(const std::string& fileName) {
+    try {
+        IOTAModule* module = FindModule(fileName);
+        const fs::path file = OnDisk(fileName);
+        const std::string extension = LowerExtension(PathText(file));
+        if (!module && extension != ".cpp" && (IsProjectGroupFile(file) || IsProjectFile(file)))
+            module = &OpenProject(fileName, told_);
+        if (!module) {
+            // A header is edited with the unit it belongs to.
+            const fs::path unit = IsHeader(file) ? Beside(file, ".cpp") : fs::path();
+            module = &OpenUnit(unit.empty() ? file : unit);
+        }
+        ShowModule(*module);
+        return true;
+    } catch (const Error& error) {
+        AddProblem(error.what());
+        return false;
+    }
+}
+
+bool PlainIde::CloseFile(const std::string& fileName) {
+    IOTAModule* module = FindModule(fileName);
+    return module && CloseModule(*module);
+}
+
+bool PlainIde::SaveFile(const std::string& fileName) {
+    IOTAModule* module = FindModule(fileName);
+    return module && module->Save(false, true);
+}
+
+bool PlainIde::MayClose(const Entry& entry) {
+    if (!entry.module->Modified()) return true;
+    switch (askClose ? askClose(*entry.module) : CloseAnswer::Cancel) {
+    case CloseAnswer::Save:
+        return entry.module->Save(false, true);
+    case CloseAnswer::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool PlainIde::CloseModule(IOTAModule& module) {
+    const bool isProject = AsProject(&module) || AsProjectGroup(&module);
+    std::vector<IOTAModule*> closing;
+    for (const Entry& entry : modules_) {
+        // A project takes its units along.
+        if (entry.module.get() != &module && !(isProject && dynamic_cast<PlainModule*>(entry.module.get())))
+            continue;
+        if (!MayClose(entry)) return false;
+        closing.push_back(entry.module.get());
+    }
+    for (IOTAModule* each : closing)
+        Forget(*each);
+    return !closing.empty();
+}
+
+void PlainIde::Forget(IOTAModule& module) {
+    std::erase(shown_, &module);
+    std::erase_if(byFile_, [&](const auto& item) { return item.second == &module; });
+    std::erase_if(modules_, [&](const Entry& entry) { return entry.module.get() == &module; });
+}
+
+// --- files
+// -----------------------------------------------------------------------------------------------------------
+
+std::vector<FileChange> PlainIde::ModifiedFiles() {
+    FileStore staged = files_;
+    staged.deferWrites = true;
+    for (const Entry& entry : modules_)
+        staged.Save(entry.files->Changes());
+    std::vector<FileChange> changes = staged.Pending();
+    std::erase_if(changes, [](const FileChange& change) { return change.oldBytes == change.newBytes; });
+    return changes;
+}
+
+void PlainIde::SaveAll() {
+    std::vector<std::pair<OpenFiles*, std::vector<FileChange>>> perModule;
+    std::vector<FileChange> all;
+    for (const Entry& entry : modules_) {
+        perModule.emplace_back(entry.files, entry.files->Changes());
+        all.insert(all.end(), perModule.back().second.begin(), perModule.back().second.end());
+    }
+    files_.SaveAndCommit(std::move(all));
+    for (const auto& [files, changes] : perModule)
+        files->MarkSaved(changes);
+}
+
+} // namespace glotta

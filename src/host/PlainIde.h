@@ -1,0 +1,93 @@
+// The plain-file IDE: projects, units and forms opened from disk behind the tool interfaces.
+#pragma once
+#include "host/FileStore.h"
+#include "host/Module.h"
+#include "host/OpenFiles.h"
+#include "host/ProjectModule.h"
+#include "ide/ToolsApi.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace glotta {
+
+enum class CloseAnswer { Save, Discard, Cancel };
+
+class PlainIde : public IOTAModuleServices, public IOTAActionServices, private ModuleHost {
+public:
+    PlainIde();
+    ~PlainIde() override;
+    PlainIde(const PlainIde&) = delete;
+    PlainIde& operator=(const PlainIde&) = delete;
+
+    BorlandIDEServices Services() { return {*this, *this}; }
+
+    // Opens a project group or a project; `told` is the encoding of all its units where no byte order mark
+    // tells another. Throws Error when the file cannot be read.
+    IOTAModule& OpenProject(const std::string& fileName, std::optional<Encoding> told = {});
+
+    int ModuleCount() const override { return static_cast<int>(modules_.size()); }
+    IOTAModule* GetModule(int index) override;
+    IOTAModule* CurrentModule() override { return shown_.empty() ? nullptr : shown_.back(); }
+    IOTAModule* FindModule(const std::string& fileName) override;
+    IOTAModule* FindFormModule(const std::string& formName) override;
+
+    // False, and a problem, for a file that cannot be read.
+    bool OpenFile(const std::string& fileName) override;
+    // Asks askClose about what is not saved.
+    bool CloseFile(const std::string& fileName) override;
+    bool SaveFile(const std::string& fileName) override;
+
+    // While set, saved files wait in memory until Commit or SaveAll; opening them again shows them as saved.
+    void SetDeferWrites(bool defer) { files_.deferWrites = defer; }
+    // Everything that differs from the disk: open and not saved, or saved and waiting.
+    std::vector<FileChange> ModifiedFiles();
+    // Writes all of them, all or none.
+    void SaveAll();
+    // Writes what was saved and waits.
+    void Commit() { files_.SaveAndCommit({}); }
+
+    // What was passed over so far, one line each: missing files, damaged forms.
+    const std::vector<std::string>& Problems() const { return problems_; }
+
+    // What to do with a modified module that is to be closed; unset, it stays open.
+    std::function<CloseAnswer(IOTAModule&)> askClose;
+
+private:
+    struct Entry {
+        std::unique_ptr<IOTAModule> module;
+        OpenFiles* files;
+    };
+
+    ModuleHost& Host() { return *this; }
+    FileStore& Files() override { return files_; }
+    void ShowModule(IOTAModule& module) override;
+    bool CloseModule(IOTAModule& module) override;
+    std::optional<AncestorForm> FindAncestor(const IOTAModule& asking, const std::string& formClass) override;
+    void AddProblem(std::string problem) override { problems_.push_back(std::move(problem)); }
+    std::optional<Encoding> ToldEncoding() const override { return told_; }
+
+    std::vector<PlainProject*> Projects();
+    // The project that lists the file, and its entry.
+    std::pair<PlainProject*, const IOTAModuleInfo*> FindEntry(const std::filesystem::path& file);
+    template <class Module> Module& Adopt(std::unique_ptr<Module> module);
+    PlainModule& OpenUnit(const std::filesystem::path& file);
+    std::string TextOf(const std::filesystem::path& file, std::optional<Encoding> hint);
+    bool MayClose(const Entry& entry);
+    void Forget(IOTAModule& module);
+
+    FileStore files_;
+    std::optional<Encoding> told_;
+    std::vector<Entry> modules_;
+    std::unordered_map<std::string, IOTAModule*> byFile_; // every file of every open module, by FileKey
+    std::vector<IOTAModule*> shown_;                      // the one in front last
+    std::vector<std::string> problems_;
+};
+
+} // namespace glotta

@@ -1,0 +1,171 @@
+#include "host/ProjectModule.h"
+
+#include "platform/Error.h"
+#include "platform/Files.h"
+
+#include <array>
+#include <fstream>
+
+namespace glotta {
+namespace {
+
+constexpr unsigned Utf8CodePage = 65001;
+
+std::string FormClassOf(const std::string& formFile) {
+    std::array<char, 4096> block;
+    std::ifstream stream(PathFromText(formFile), std::ios::binary);
+    stream.read(block.data(), block.size());
+    try {
+        return FormFile::PeekHead({block.data(), static_cast<std::size_t>(stream.gcount())}, formFile)
+            .className;
+    } catch (const Error&) {
+        return {};
+    }
+}
+
+void Append(std::vector<FileChange>& to, std::vector<FileChange> changes) {
+    std::move(changes.begin(), changes.end(), std::back_inserter(to));
+}
+
+bool SaveFiles(ModuleHost& host, OpenFiles& files) {
+    const std::vector<FileChange> changes = files.Changes();
+    host.Files().Save(changes);
+    files.MarkSaved(changes);
+    return true;
+}
+
+} // namespace
+
+// --- project
+// ---------------------------------------------------------------------------------------------------------
+
+PlainProject::PlainProject(ModuleHost& host, ProjectDescription description)
+    : host_(host), description_(std::move(description)), modules_(ModuleInfos(description_)) {
+    for (const std::string& problem : description_.problems)
+        host_.AddProblem(problem);
+    for (const IOTAModuleInfo& info : modules_)
+        byFile_.emplace(info.fileName, &info);
+}
+
+std::string PlainProject::FileName() const {
+    return PathText(description_.file);
+}
+std::string PlainProject::Name() const {
+    return PathText(description_.file.stem());
+}
+
+IOTAEditor* PlainProject::GetModuleFileEditor(int index) {
+    if (index != 0 || description_.mainSource.empty()) return nullptr;
+    if (!source_)
+        source_ = std::make_unique<OpenSource>(host_, *this, description_.mainSource, EncodingHint());
+    return &source_->Editor();
+}
+
+bool PlainProject::Save(bool /*changeName*/, bool /*forceSave*/) {
+    return SaveFiles(host_, *this);
+}
+
+std::optional<Encoding> PlainProject::EncodingHint() const {
+    if (!description_.codePage) return std::nullopt;
+    if (*description_.codePage == Utf8CodePage)
+        return Encoding{EncodingKind::Utf8, Encoding().codePage, false};
+    return EncodingByName(std::to_string(*description_.codePage));
+}
+
+const IOTAModuleInfo* PlainProject::FindEntry(const std::filesystem::path& file) const {
+    const auto found = byFile_.find(PathText(file));
+    return found == byFile_.end() ? nullptr : found->second;
+}
+
+const IOTAModuleInfo* PlainProject::FindFormClass(const std::string& formClass) {
+    if (!readHeads_) {
+        readHeads_ = true;
+        for (const IOTAModuleInfo& info : modules_)
+            if (!info.formFile.empty()) byFormClass_.emplace(FormClassOf(info.formFile), &info);
+    }
+    const auto found = byFormClass_.find(formClass);
+    return found == byFormClass_.end() ? nullptr : found->second;
+}
+
+std::vector<FileChange> PlainProject::Changes() {
+    std::vector<FileChange> changes;
+    if (source_) source_->AddChange(changes);
+    return changes;
+}
+
+void PlainProject::MarkSaved(const std::vector<FileChange>& changes) {
+    if (source_) source_->MarkSaved(changes);
+}
+
+std::vector<std::filesystem::path> PlainProject::Paths() const {
+    std::vector<std::filesystem::path> paths{description_.file};
+    if (!description_.mainSource.empty() && description_.mainSource != description_.file)
+        paths.push_back(description_.mainSource);
+    return paths;
+}
+
+// --- group
+// -----------------------------------------------------------------------------------------------------------
+
+PlainProjectGroup::PlainProjectGroup(ModuleHost& host, ProjectGroupDescription description)
+    : host_(host), description_(std::move(description)), slots_(description_.projects.size()) {
+    for (const std::string& problem : description_.problems)
+        host_.AddProblem(problem);
+}
+
+std::string PlainProjectGroup::FileName() const {
+    return PathText(description_.file);
+}
+std::string PlainProjectGroup::Name() const {
+    return PathText(description_.file.stem());
+}
+
+PlainProject* PlainProjectGroup::GetProject(int index) {
+    if (index < 0 || index >= ProjectCount()) return nullptr;
+    Slot& slot = slots_[static_cast<std::size_t>(index)];
+    const ProjectGroupEntry& entry = description_.projects[static_cast<std::size_t>(index)];
+    if (!slot.read && !entry.missing) {
+        try {
+            slot.project = std::make_unique<PlainProject>(host_, ReadProject(entry.file));
+        } catch (const Error& error) {
+            host_.AddProblem(error.what());
+        }
+    }
+    slot.read = true;
+    return slot.project.get();
+}
+
+void PlainProjectGroup::SetActiveProject(int index) {
+    if (index >= 0 && index < ProjectCount()) description_.activeIndex = index;
+}
+
+std::vector<PlainProject*> PlainProjectGroup::LoadedProjects() const {
+    std::vector<PlainProject*> projects;
+    for (const Slot& slot : slots_)
+        if (slot.project) projects.push_back(slot.project.get());
+    return projects;
+}
+
+bool PlainProjectGroup::Modified() const {
+    const auto projects = LoadedProjects();
+    return std::any_of(projects.begin(), projects.end(),
+                       [](const PlainProject* project) { return project->Modified(); });
+}
+
+bool PlainProjectGroup::Save(bool /*changeName*/, bool /*forceSave*/) {
+    return SaveFiles(host_, *this);
+}
+
+std::vector<FileChange> PlainProjectGroup::Changes() {
+    std::vector<FileChange> changes;
+    for (PlainProject* project : LoadedProjects())
+        Append(changes, project->Changes());
+    return changes;
+}
+
+void PlainProjectGroup::MarkSaved(const std::vector<FileChange>& changes) {
+    for (PlainProject* project : LoadedProjects())
+        project->MarkSaved(changes);
+}
+
+} // namespace glotta

@@ -1,0 +1,86 @@
+// Open projects and project groups.
+#pragma once
+#include "host/OpenFiles.h"
+#include "host/ProjectFiles.h"
+#include "ide/ToolsApi.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace glotta {
+
+class PlainProject : public IOTAProject, public OpenFiles {
+public:
+    PlainProject(ModuleHost& host, ProjectDescription description);
+
+    std::string FileName() const override;
+    std::string Name() const override;
+    int GetModuleFileCount() const override { return description_.mainSource.empty() ? 0 : 1; }
+    IOTAEditor* GetModuleFileEditor(int index) override; // the project source
+    bool Modified() const override { return source_ && source_->Editor().Modified(); }
+    bool Save(bool changeName, bool forceSave) override;
+    bool Close() override { return host_.CloseModule(*this); }
+    const std::vector<IOTAModuleInfo>& Modules() const override { return modules_; }
+    bool IsCpp() const override { return description_.IsCpp(); }
+
+    // The project's code page, as a hint for its units.
+    std::optional<Encoding> EncodingHint() const;
+    // The entry of a file on disk, nil when the project does not list it.
+    const IOTAModuleInfo* FindEntry(const std::filesystem::path& file) const;
+    // The entry whose form has this class, nil when there is none. Reads the heads of the form files at the
+    // first call.
+    const IOTAModuleInfo* FindFormClass(const std::string& formClass);
+
+    std::vector<FileChange> Changes() override;
+    void MarkSaved(const std::vector<FileChange>& changes) override;
+    std::vector<std::filesystem::path> Paths() const override;
+
+private:
+    ModuleHost& host_;
+    ProjectDescription description_;
+    std::vector<IOTAModuleInfo> modules_;
+    std::unordered_map<std::string, const IOTAModuleInfo*> byFile_;
+    std::unordered_map<std::string, const IOTAModuleInfo*, TextHash, TextEqual> byFormClass_;
+    bool readHeads_ = false;
+    std::unique_ptr<OpenSource> source_;
+};
+
+class PlainProjectGroup : public IOTAProjectGroup, public OpenFiles {
+public:
+    PlainProjectGroup(ModuleHost& host, ProjectGroupDescription description);
+
+    std::string FileName() const override;
+    std::string Name() const override;
+    int GetModuleFileCount() const override { return 0; }
+    IOTAEditor* GetModuleFileEditor(int) override { return nullptr; }
+    bool Modified() const override;
+    bool Save(bool changeName, bool forceSave) override;
+    bool Close() override { return host_.CloseModule(*this); }
+    int ProjectCount() const override { return static_cast<int>(description_.projects.size()); }
+    // Projects are read when they are asked for; one that cannot be read is nil, and a problem of the host.
+    PlainProject* GetProject(int index) override;
+    PlainProject* ActiveProject() override { return GetProject(description_.activeIndex); }
+    void SetActiveProject(int index) override;
+
+    // Those that were asked for so far, in the group's order.
+    std::vector<PlainProject*> LoadedProjects() const;
+
+    std::vector<FileChange> Changes() override;
+    void MarkSaved(const std::vector<FileChange>& changes) override;
+    std::vector<std::filesystem::path> Paths() const override { return {description_.file}; }
+
+private:
+    struct Slot {
+        bool read = false;
+        std::unique_ptr<PlainProject> project;
+    };
+    ModuleHost& host_;
+    ProjectGroupDescription description_;
+    std::vector<Slot> slots_;
+};
+
+} // namespace glotta
