@@ -21,22 +21,23 @@ struct FormatOfExtension {
     bool isCpp;
 };
 constexpr FormatOfExtension formats[] = {
-    {".dpr", Format::DelphiSource, false}, {".dpk", Format::DelphiSource, false},
-    {".bdsproj", Format::Xml, false},      {".dproj", Format::Xml, false},
-    {".cbproj", Format::Xml, true},        {".bpr", Format::XmlOrMakefile, true},
-    {".bpk", Format::XmlOrMakefile, true}, {".cpp", Format::UseMacros, true},
+    {".dpr", Format::DelphiSource, false},  {".dpk", Format::DelphiSource, false},
+    {".bdsproj", Format::Xml, false},       {".dproj", Format::Xml, false},
+    {".cbproj", Format::Xml, true},         {".bpr", Format::XmlOrMakefile, true},
+    {".bpk", Format::XmlOrMakefile, true},  {".cpp", Format::UseMacros, true},
     {".bpg", Format::MakefileGroup, false}, {".bdsgroup", Format::XmlGroup, false},
     {".groupproj", Format::XmlGroup, false}};
 
 FormatOfExtension FormatOf(const fs::path& file) {
     const std::string extension = LowerExtension(PathText(file));
     for (const FormatOfExtension& entry : formats)
-        if (entry.extension == extension)
-            return entry;
+        if (entry.extension == extension) return entry;
     return {{}, Format::None, false};
 }
 
-bool IsGroup(Format format) { return format == Format::MakefileGroup || format == Format::XmlGroup; }
+bool IsGroup(Format format) {
+    return format == Format::MakefileGroup || format == Format::XmlGroup;
+}
 
 std::string ReadText(const fs::path& file) {
     const std::string bytes = ReadFile(file);
@@ -46,18 +47,23 @@ std::string ReadText(const fs::path& file) {
 ProjectListing ReadListing(const fs::path& file, const FormatOfExtension& format) {
     const std::string text = ReadText(file);
     switch (format.format) {
-    case Format::DelphiSource: return ListDelphiSource(text);
-    case Format::UseMacros: return ListUseMacros(text);
+    case Format::DelphiSource:
+        return ListDelphiSource(text);
+    case Format::UseMacros:
+        return ListUseMacros(text);
     case Format::XmlOrMakefile:
-        if (!IsXml(text))
-            return ListMakefileProject(text);
+        if (!IsXml(text)) return ListMakefileProject(text);
         [[fallthrough]];
-    case Format::Xml: return ListXmlProject(text, PathText(file));
-    default: throw Error(PathText(file) + ": not a Delphi or C++Builder project");
+    case Format::Xml:
+        return ListXmlProject(text, PathText(file));
+    default:
+        throw Error(PathText(file) + ": not a Delphi or C++Builder project");
     }
 }
 
-fs::path Absolute(const fs::path& file) { return fs::absolute(file).lexically_normal(); }
+fs::path Absolute(const fs::path& file) {
+    return fs::absolute(file).lexically_normal();
+}
 
 // The file beside the project with another extension, whatever its letter case.
 std::optional<fs::path> Beside(PathResolver& paths, const fs::path& file, const std::string& extension) {
@@ -69,18 +75,18 @@ void FindMainSource(ProjectDescription& project, const std::string& written, Pat
     if (!written.empty()) {
         bool missing = false;
         const fs::path source = ResolveOrNative(paths, project.file.parent_path(), written, missing);
-        if (!missing)
+        if (!missing) {
             project.mainSource = source;
-        else
-            project.problems.push_back(PathText(project.file) + ": main source '" + written + "' is missing");
-        return;
+            return;
+        }
+        project.problems.push_back(PathText(project.file) + ": main source '" + written + "' is missing");
     }
-    for (const char* extension : {".dpr", ".dpk", ".cpp"})
-        if (project.IsCpp() == (std::string_view(extension) == ".cpp"))
-            if (const auto source = Beside(paths, project.file, extension)) {
-                project.mainSource = source->lexically_normal();
-                return;
-            }
+    const std::vector<std::string> delphi = {".dpr", ".dpk"}, cpp = {".cpp"};
+    for (const std::string& extension : project.IsCpp() ? cpp : delphi)
+        if (const auto source = Beside(paths, project.file, extension)) {
+            project.mainSource = source->lexically_normal();
+            return;
+        }
 }
 
 ProjectKind KindOf(const ProjectListing& listing, const fs::path& source) {
@@ -91,8 +97,7 @@ ProjectKind KindOf(const ProjectListing& listing, const fs::path& source) {
 void ReadOptionsFile(ProjectDescription& project, ProjectEntries& entries, PathResolver& paths) {
     for (const char* extension : {".dproj", ".bdsproj", ".dof"}) {
         const auto file = Beside(paths, project.file, extension);
-        if (!file)
-            continue;
+        if (!file) continue;
         try {
             if (std::string_view(extension) == ".dof") {
                 project.codePage = FindCodePageLine(ReadText(*file));
@@ -112,14 +117,15 @@ void ReadOptionsFile(ProjectDescription& project, ProjectEntries& entries, PathR
 void AddMainSourceUnits(ProjectDescription& project, ProjectEntries& entries, ProjectListing listing) {
     const fs::path folder = project.file.parent_path();
     if (project.mainSource.empty()) {
+        if (listing.units.empty() && project.problems.empty())
+            project.problems.push_back(PathText(project.file) + ": main source is missing");
         entries.Add(folder, std::move(listing.units));
         return;
     }
     const FormatOfExtension format = FormatOf(project.mainSource);
     const bool isSource = format.format == Format::DelphiSource || format.format == Format::UseMacros;
     ProjectListing source;
-    if (isSource)
-        source = ReadListing(project.mainSource, format);
+    if (isSource) source = ReadListing(project.mainSource, format);
     const fs::path sourceFolder = project.mainSource.parent_path();
     if (project.IsCpp() || !isSource) {
         entries.Add(folder, std::move(listing.units));
@@ -133,13 +139,14 @@ void AddMainSourceUnits(ProjectDescription& project, ProjectEntries& entries, Pr
 
 // Only the file's first block is read. Empty when the file does not begin as a form; opening it will say why.
 std::string RootName(const fs::path& formFile) {
-    if (formFile.empty())
-        return {};
+    if (formFile.empty()) return {};
     std::array<char, 4096> block;
     std::ifstream stream(formFile, std::ios::binary);
     stream.read(block.data(), block.size());
     try {
-        return FormFile::PeekHead({block.data(), static_cast<std::size_t>(stream.gcount())}, PathText(formFile)).name;
+        return FormFile::PeekHead({block.data(), static_cast<std::size_t>(stream.gcount())},
+                                  PathText(formFile))
+            .name;
     } catch (const Error&) {
         return {};
     }
@@ -147,12 +154,13 @@ std::string RootName(const fs::path& formFile) {
 
 } // namespace
 
-bool IsProjectGroupFile(const fs::path& file) { return IsGroup(FormatOf(file).format); }
+bool IsProjectGroupFile(const fs::path& file) {
+    return IsGroup(FormatOf(file).format);
+}
 
 bool IsProjectFile(const fs::path& file) {
     const Format format = FormatOf(file).format;
-    if (format == Format::UseMacros)
-        return !ListUseMacros(ReadText(file)).units.empty();
+    if (format == Format::UseMacros) return !ListUseMacros(ReadText(file)).units.empty();
     return format != Format::None && !IsGroup(format);
 }
 
@@ -172,8 +180,7 @@ ProjectDescription ReadProject(const fs::path& file, PathResolver& paths) {
         project.mainSource = project.file;
         project.kind = KindOf(listing, project.file);
         entries.Add(project.file.parent_path(), std::move(listing.units));
-        if (!format.isCpp)
-            ReadOptionsFile(project, entries, paths);
+        if (!format.isCpp) ReadOptionsFile(project, entries, paths);
         return project;
     }
     const bool isCpp = format.isCpp || LowerExtension(listing.mainSource) == ".cpp";
@@ -187,8 +194,7 @@ ProjectGroupDescription ReadProjectGroup(const fs::path& file) {
     ProjectGroupDescription group;
     group.file = Absolute(file);
     const Format format = FormatOf(file).format;
-    if (!IsGroup(format))
-        throw Error(PathText(group.file) + ": not a project group");
+    if (!IsGroup(format)) throw Error(PathText(group.file) + ": not a project group");
     const std::string text = ReadText(group.file);
     const GroupListing listing =
         format == Format::MakefileGroup ? ListMakefileGroup(text) : ListXmlGroup(text, PathText(group.file));
@@ -200,11 +206,10 @@ ProjectGroupDescription ReadProjectGroup(const fs::path& file) {
         ProjectGroupEntry entry{project.path, {}, false};
         entry.file = ResolveOrNative(paths, group.file.parent_path(), project.path, entry.missing);
         const auto [known, isNew] = byFile.try_emplace(PathText(entry.file), group.projects.size());
-        const bool named = SameFileName(project.name, listing.active) || SameFileName(project.path, listing.active);
-        if (!listing.active.empty() && named && !entry.missing)
-            active = known->second;
-        if (!isNew)
-            continue;
+        const bool named =
+            SameFileName(project.name, listing.active) || SameFileName(project.path, listing.active);
+        if (!listing.active.empty() && named && !entry.missing) active = known->second;
+        if (!isNew) continue;
         if (entry.missing)
             group.problems.push_back(PathText(group.file) + ": project '" + project.path + "' is missing");
         else if (!present)
@@ -226,10 +231,8 @@ std::vector<IOTAModuleInfo> ModuleInfos(const ProjectDescription& project) {
         info.formFile = PathText(entry.formFile);
         info.missing = entry.missing;
         // A CoClass annotation names an interface's class, not a form.
-        if (entry.designClass != "CoClass" || !info.formFile.empty())
-            info.formName = entry.annotatedFormName;
-        if (std::string name = RootName(entry.formFile); !name.empty())
-            info.formName = std::move(name);
+        if (entry.designClass != "CoClass" || !info.formFile.empty()) info.formName = entry.annotatedFormName;
+        if (std::string name = RootName(entry.formFile); !name.empty()) info.formName = std::move(name);
         infos.push_back(std::move(info));
     }
     return infos;

@@ -14,12 +14,12 @@ enum class ProjectKind { DelphiProgram, DelphiLibrary, DelphiPackage, CppBuilder
 
 // A unit that a project lists.
 struct ProjectEntry {
-    std::string unitName;          // "Main"; namespace and folder removed only where the project gives no name
-    std::string writtenPath;       // as the project file writes it: '..\Units\Main.pas'
-    std::filesystem::path file;    // on disk; of a missing file where it would be
+    std::string unitName;       // "Main"; namespace and folder removed only where the project gives no name
+    std::string writtenPath;    // as the project file writes it: '..\Units\Main.pas'
+    std::filesystem::path file; // on disk; of a missing file where it would be
     bool missing = false;
-    std::string annotatedFormName; // "Form1", empty without a usable annotation
-    std::string designClass;       // "TDataModule", "TFrame", as far as the project says; empty for a form
+    std::string annotatedFormName;  // "Form1", empty without a usable annotation
+    std::string designClass;        // "TDataModule", "TFrame", as far as the project says; empty for a form
     std::filesystem::path formFile; // the .dfm or .xfm on disk, empty without one
 };
 
@@ -27,7 +27,7 @@ struct ProjectDescription {
     std::filesystem::path file;       // as it was named, absolute
     std::filesystem::path mainSource; // the .dpr, .dpk or project .cpp; empty when there is none on disk
     ProjectKind kind = ProjectKind::DelphiProgram;
-    std::optional<unsigned> codePage; // a hint only; 65001 for UTF-8
+    std::optional<unsigned> codePage;  // a hint only; 65001 for UTF-8
     std::vector<ProjectEntry> entries; // in the project's order, each file once
     std::vector<std::string> problems; // one line each, with the file's name: what was passed over
 

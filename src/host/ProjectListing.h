@@ -1,4 +1,5 @@
-// What a project file says, before anything is looked up on disk: pure functions of its bytes, one per format.
+// What a project file says, before anything is looked up on disk: pure functions of its bytes, one per
+// format.
 #pragma once
 #include "host/ProjectFiles.h"
 

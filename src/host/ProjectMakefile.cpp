@@ -6,7 +6,8 @@
 namespace glotta {
 namespace {
 
-constexpr std::array<std::string_view, 6> projectExtensions = {".dpr", ".dpk", ".bpr", ".bpk", ".bdsproj", ".dproj"};
+constexpr std::array<std::string_view, 6> projectExtensions = {".dpr", ".dpk",     ".bpr",
+                                                               ".bpk", ".bdsproj", ".dproj"};
 
 // Lines with their continuations joined; remarks and directives ("!if") left out.
 std::vector<std::string> MakefileLines(std::string_view text) {
@@ -15,22 +16,21 @@ std::vector<std::string> MakefileLines(std::string_view text) {
     for (const std::string& line : SplitLines(text)) {
         std::string_view piece = TrimRight(line);
         const bool goesOn = piece.ends_with('\\');
-        if (goesOn)
-            piece.remove_suffix(1);
+        if (goesOn) piece.remove_suffix(1);
         if (continued)
             lines.back().append(" ").append(TrimLeft(piece));
         else
             lines.emplace_back(piece);
         continued = goesOn;
     }
-    std::erase_if(lines, [](const std::string& line) { return line.starts_with('#') || line.starts_with('!'); });
+    std::erase_if(lines,
+                  [](const std::string& line) { return line.starts_with('#') || line.starts_with('!'); });
     return lines;
 }
 
 // "NAME = value"; empty for another line.
 std::string_view MacroValue(std::string_view line, std::string_view name) {
-    if (!line.starts_with(name))
-        return {};
+    if (!line.starts_with(name)) return {};
     line = TrimLeft(line.substr(name.size()));
     return line.starts_with('=') ? Trim(line.substr(1)) : std::string_view{};
 }
@@ -42,7 +42,8 @@ std::string_view LastWord(std::string_view text) {
 
 bool IsProjectName(std::string_view path) {
     const std::string extension = LowerExtension(path);
-    return std::find(projectExtensions.begin(), projectExtensions.end(), extension) != projectExtensions.end();
+    return std::find(projectExtensions.begin(), projectExtensions.end(), extension) !=
+           projectExtensions.end();
 }
 
 using WordOrder = std::unordered_map<std::string, std::size_t, TextHash, TextEqual>;
@@ -65,20 +66,18 @@ ProjectListing ListMakefileProject(std::string_view text) {
     return result;
 }
 
-// PROJECTS names the outputs in order; the rules say which file makes each. Outputs may hold blanks, so a rule is
-// found by the last word of its target.
+// PROJECTS names the outputs in order; the rules say which file makes each. Outputs may hold blanks, so a
+// rule is found by the last word of its target.
 GroupListing ListMakefileGroup(std::string_view text) {
     WordOrder order;
     GroupListing result;
     for (const std::string& line : MakefileLines(text)) {
         AddWords(order, MacroValue(line, "PROJECTS"));
         const std::size_t colon = line.find(": ");
-        if (colon == std::string::npos || line.starts_with(' ') || line.starts_with('\t'))
-            continue;
+        if (colon == std::string::npos || line.starts_with(' ') || line.starts_with('\t')) continue;
         const std::string_view target = Trim(std::string_view(line).substr(0, colon));
         const std::string_view path = Trim(std::string_view(line).substr(colon + 1));
-        if (IsProjectName(path))
-            result.projects.push_back({std::string(target), std::string(path)});
+        if (IsProjectName(path)) result.projects.push_back({std::string(target), std::string(path)});
     }
     const auto place = [&](const GroupListing::Project& project) {
         const auto found = order.find(LastWord(project.name));

@@ -8,7 +8,8 @@ namespace {
 // Walks the tokens of a project source.
 class Reader {
 public:
-    Reader(std::string_view text, bool isCpp) : text_(text), tokens_(Tokenize(text, isCpp, KeepComments::Yes)) {}
+    Reader(std::string_view text, bool isCpp)
+        : text_(text), tokens_(Tokenize(text, isCpp, KeepComments::Yes)) {}
 
     bool AtEnd() const { return next_ >= tokens_.size(); }
     TokenKind Kind() const { return AtEnd() ? TokenKind::Bad : tokens_[next_].kind; }
@@ -22,8 +23,7 @@ public:
     }
     bool Take(std::string_view word) {
         SkipRemarks();
-        if (!SameText(Text(), word))
-            return false;
+        if (!SameText(Text(), word)) return false;
         Next();
         return true;
     }
@@ -42,11 +42,9 @@ std::string Unquoted(std::string_view literal, char quote) {
 }
 
 std::string_view CommentContent(std::string_view comment) {
-    if (comment.starts_with("//"))
-        return Trim(comment.substr(2));
+    if (comment.starts_with("//")) return Trim(comment.substr(2));
     const std::size_t mark = comment.starts_with("{") ? 1 : 2;
-    if (comment.size() < 2 * mark)
-        return {};
+    if (comment.size() < 2 * mark) return {};
     return Trim(comment.substr(mark, comment.size() - 2 * mark));
 }
 
@@ -57,17 +55,16 @@ void Annotate(ListedUnit& unit, std::string_view comment) {
     const std::string_view name = TrimRight(content.substr(0, colon));
     const bool typed = colon != std::string_view::npos;
     const std::string_view type = typed ? Trim(content.substr(colon + 1)) : std::string_view{};
-    if (!IsIdentifier(name) || (typed && !IsIdentifier(type)))
-        return;
+    if (!IsIdentifier(name) || (typed && !IsIdentifier(type))) return;
     unit.formName = name;
     unit.designClass = type;
 }
 
 std::string DottedName(Reader& reader) {
     std::string name;
-    for (reader.SkipRemarks(); reader.Kind() == TokenKind::Identifier || reader.Text() == "."; reader.Next()) {
-        if (SameText(reader.Text(), "in"))
-            break;
+    for (reader.SkipRemarks(); reader.Kind() == TokenKind::Identifier || reader.Text() == ".";
+         reader.Next()) {
+        if (SameText(reader.Text(), "in")) break;
         name += reader.Text();
     }
     return name;
@@ -85,12 +82,9 @@ void ReadUsesClause(Reader& reader, std::vector<ListedUnit>& units) {
             }
         }
         for (; reader.Kind() == TokenKind::Comment || reader.Kind() == TokenKind::Directive; reader.Next())
-            if (reader.Kind() == TokenKind::Comment && unit.formName.empty())
-                Annotate(unit, reader.Text());
-        if (!unit.path.empty())
-            units.push_back(std::move(unit));
-        if (!reader.AtEnd() && reader.Text() != ";")
-            reader.Next();
+            if (reader.Kind() == TokenKind::Comment && unit.formName.empty()) Annotate(unit, reader.Text());
+        if (!unit.path.empty()) units.push_back(std::move(unit));
+        if (!reader.AtEnd() && reader.Text() != ";") reader.Next();
     }
 }
 
@@ -107,32 +101,27 @@ constexpr UseMacro useMacros[] = {{"USEUNIT", 0, ""},
 
 const UseMacro* FindUseMacro(std::string_view name) {
     for (const UseMacro& macro : useMacros)
-        if (macro.name == name)
-            return &macro;
+        if (macro.name == name) return &macro;
     return nullptr;
 }
 
 // USEFORM("dir\Unit.cpp", Form1); /* TDataModule: File Type */
 std::optional<ListedUnit> ReadUseMacro(Reader& reader, const UseMacro& macro) {
     std::vector<std::string> arguments;
-    if (!reader.Take("("))
-        return {};
+    if (!reader.Take("(")) return {};
     for (; !reader.AtEnd() && reader.Text() != ")" && reader.Text() != ";"; reader.Next())
         if (reader.Kind() == TokenKind::String || reader.Kind() == TokenKind::Identifier)
             arguments.push_back(Unquoted(reader.Text(), '"'));
     reader.Next();
-    if (reader.Text() == ";")
-        reader.Next();
-    if (arguments.empty())
-        return {};
+    if (reader.Text() == ";") reader.Next();
+    if (arguments.empty()) return {};
     ListedUnit unit{WrittenStem(arguments[0]), arguments[0], {}, std::string(macro.designClass)};
     if (macro.formArgument > 0 && macro.formArgument < arguments.size())
         unit.formName = arguments[macro.formArgument];
     if (reader.Kind() == TokenKind::Comment) {
         const std::string_view content = CommentContent(reader.Text());
         const std::string_view type = TrimRight(content.substr(0, content.find(':')));
-        if (content.size() > type.size() && IsIdentifier(type))
-            unit.designClass = type;
+        if (content.size() > type.size() && IsIdentifier(type)) unit.designClass = type;
     }
     return unit;
 }
@@ -148,11 +137,10 @@ ProjectListing ListDelphiSource(std::string_view text) {
         result.kind = ProjectKind::DelphiPackage;
     while (!reader.AtEnd()) {
         const bool clause = reader.Kind() == TokenKind::Identifier &&
-                            (SameText(reader.Text(), "uses") ||
-                             (result.kind == ProjectKind::DelphiPackage && SameText(reader.Text(), "contains")));
+                            (SameText(reader.Text(), "uses") || (result.kind == ProjectKind::DelphiPackage &&
+                                                                 SameText(reader.Text(), "contains")));
         reader.Next();
-        if (clause)
-            ReadUsesClause(reader, result.units);
+        if (clause) ReadUsesClause(reader, result.units);
     }
     return result;
 }
@@ -161,12 +149,11 @@ ProjectListing ListUseMacros(std::string_view text) {
     ProjectListing result{ProjectKind::CppBuilder, {}, {}, {}};
     Reader reader(text, true);
     while (!reader.AtEnd()) {
-        const UseMacro* macro = reader.Kind() == TokenKind::Identifier ? FindUseMacro(reader.Text()) : nullptr;
+        const UseMacro* macro =
+            reader.Kind() == TokenKind::Identifier ? FindUseMacro(reader.Text()) : nullptr;
         reader.Next();
-        if (!macro)
-            continue;
-        if (auto unit = ReadUseMacro(reader, *macro))
-            result.units.push_back(std::move(*unit));
+        if (!macro) continue;
+        if (auto unit = ReadUseMacro(reader, *macro)) result.units.push_back(std::move(*unit));
     }
     return result;
 }

@@ -11,11 +11,14 @@ namespace {
 
 pugi::xml_document Parse(std::string_view text, const std::string& fileName) {
     pugi::xml_document document;
-    const auto result = document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_utf8);
+    const auto result =
+        document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_utf8);
     if (!result) {
         const auto offset = std::min(static_cast<std::size_t>(result.offset), text.size());
-        const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(offset), '\n');
-        throw Error(fileName + ": line " + std::to_string(line) + ": not well-formed XML: " + result.description());
+        const auto line =
+            1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(offset), '\n');
+        throw Error(fileName + ": line " + std::to_string(line) +
+                    ": not well-formed XML: " + result.description());
     }
     return document;
 }
@@ -25,8 +28,7 @@ template <class Visit> void ForEachElement(pugi::xml_document& document, Visit v
     struct Walker : pugi::xml_tree_walker {
         explicit Walker(Visit& given) : visit(given) {}
         bool for_each(pugi::xml_node& node) override {
-            if (node.type() == pugi::node_element)
-                visit(node, std::string_view(node.name()));
+            if (node.type() == pugi::node_element) visit(node, std::string_view(node.name()));
             return true;
         }
         Visit& visit;
@@ -34,7 +36,9 @@ template <class Visit> void ForEachElement(pugi::xml_document& document, Visit v
     document.traverse(walker);
 }
 
-std::string_view Attribute(const pugi::xml_node& node, const char* name) { return node.attribute(name).value(); }
+std::string_view Attribute(const pugi::xml_node& node, const char* name) {
+    return node.attribute(name).value();
+}
 
 std::string_view IdentifierOrNothing(std::string_view text) {
     text = Trim(text);
@@ -53,8 +57,9 @@ std::string Unescape(std::string_view text) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
         unsigned code = 0;
-        const bool escaped = text[i] == '%' && i + 2 < text.size() &&
-                             std::from_chars(&text[i + 1], &text[i + 1] + 2, code, 16).ptr == &text[i + 1] + 2;
+        const bool escaped =
+            text[i] == '%' && i + 2 < text.size() &&
+            std::from_chars(&text[i + 1], &text[i + 1] + 2, code, 16).ptr == &text[i + 1] + 2;
         result += escaped ? static_cast<char>(code) : text[i];
         i += escaped ? 2 : 0;
     }
@@ -67,8 +72,7 @@ std::vector<std::string> Items(std::string_view list) {
     while (!list.empty()) {
         const std::size_t end = std::min(list.find(';'), list.size());
         const std::string_view item = Trim(list.substr(0, end));
-        if (!item.empty() && !item.starts_with("$("))
-            items.push_back(Unescape(item));
+        if (!item.empty() && !item.starts_with("$(")) items.push_back(Unescape(item));
         list.remove_prefix(std::min(end + 1, list.size()));
     }
     return items;
@@ -92,8 +96,7 @@ void AddMsBuildUnits(const pugi::xml_node& node, std::vector<ListedUnit>& units)
 // <FILE FILENAME= FORMNAME= UNITNAME= DESIGNCLASS=> of the C++Builder XML projects.
 void AddFile(const pugi::xml_node& node, std::vector<ListedUnit>& units) {
     const std::string path(Trim(Attribute(node, "FILENAME")));
-    if (!IsUnitPath(path))
-        return;
+    if (!IsUnitPath(path)) return;
     const std::string_view name = Trim(Attribute(node, "UNITNAME"));
     units.push_back({name.empty() ? WrittenStem(path) : std::string(name), path,
                      std::string(IdentifierOrNothing(Attribute(node, "FORMNAME"))),
@@ -102,8 +105,7 @@ void AddFile(const pugi::xml_node& node, std::vector<ListedUnit>& units) {
 
 void ReadElement(const pugi::xml_node& node, std::string_view name, ProjectListing& result) {
     const auto setMain = [&](std::string_view value) {
-        if (result.mainSource.empty() && !Trim(value).empty())
-            result.mainSource = Unescape(Trim(value));
+        if (result.mainSource.empty() && !Trim(value).empty()) result.mainSource = Unescape(Trim(value));
     };
     if (name == "MainSource" && std::string_view(node.parent().name()) == "PropertyGroup")
         setMain(node.child_value());
@@ -126,8 +128,9 @@ void ReadElement(const pugi::xml_node& node, std::string_view name, ProjectListi
 ProjectListing ListXmlProject(std::string_view text, const std::string& fileName) {
     pugi::xml_document document = Parse(text, fileName);
     ProjectListing result;
-    ForEachElement(document,
-                   [&](const pugi::xml_node& node, std::string_view name) { ReadElement(node, name, result); });
+    ForEachElement(document, [&](const pugi::xml_node& node, std::string_view name) {
+        ReadElement(node, name, result);
+    });
     return result;
 }
 
@@ -140,18 +143,15 @@ GroupListing ListXmlGroup(std::string_view text, const std::string& fileName) {
             to.push_back({WrittenStem(path), path});
     };
     ForEachElement(document, [&](const pugi::xml_node& node, std::string_view name) {
-        if (name == "MSBuild")
-            addItems(built, Attribute(node, "Projects"));
-        if (name != "Projects")
-            return;
+        if (name == "MSBuild") addItems(built, Attribute(node, "Projects"));
+        if (name != "Projects") return;
         addItems(result.projects, Attribute(node, "Include"));
         if (const std::string_view active = Attribute(node, "ActiveProject"); !active.empty())
             result.active = active;
         if (const std::string_view output = Attribute(node, "Name"); !output.empty())
             result.projects.push_back({std::string(output), std::string(Trim(node.child_value()))});
     });
-    if (result.projects.empty())
-        result.projects = std::move(built);
+    if (result.projects.empty()) result.projects = std::move(built);
     return result;
 }
 

@@ -36,8 +36,7 @@ FormsListItem* FormsList::FindText(std::string_view formName) {
 std::vector<FormsListItem*> FormsList::Selected() {
     std::vector<FormsListItem*> selected;
     for (FormsListItem& item : items)
-        if (item.selected)
-            selected.push_back(&item);
+        if (item.selected) selected.push_back(&item);
     return selected;
 }
 
@@ -46,12 +45,10 @@ FormAnalysis AnalyzeFormFile(const std::string& formFile) {
     const ClassCatalogue& catalogue = ClassCatalogue::BuiltIn();
     FormFile form = FormFile::Parse(ReadFile(PathFromText(formFile)), formFile);
     FormAnalysis analysis{form.Root().name, 0, {}};
-    if (!HoldsLocalization(form.Root(), catalogue))
-        return analysis;
+    if (!HoldsLocalization(form.Root(), catalogue)) return analysis;
     ComponentTree tree(form, {}, catalogue);
     for (TComponent* component : tree.Root().Components()) {
-        if (!IsLocalization(catalogue, component->ClassName()))
-            continue;
+        if (!IsLocalization(catalogue, component->ClassName())) continue;
         analysis.glotta = component->ClassName();
         if (const auto* lang = dynamic_cast<const TgxCustomLang*>(component))
             analysis.languages = lang->NumberOfLanguages();
@@ -63,8 +60,7 @@ FormAnalysis AnalyzeFormFile(const std::string& formFile) {
 FormsList ListProjectForms(const IOTAProject& project, std::vector<std::string>& errors) {
     FormsList list;
     for (const IOTAModuleInfo& info : project.Modules()) {
-        if (info.formFile.empty())
-            continue;
+        if (info.formFile.empty()) continue;
         FormsListItem item;
         item.formName = info.formName;
         item.unitName = info.unitName;

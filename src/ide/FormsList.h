@@ -8,7 +8,7 @@
 namespace glotta {
 
 struct FormsListItem {
-    std::string formName;        // the caption
+    std::string formName; // the caption
     std::string unitName;
     std::string fileName;        // the unit file
     std::string languages = "0"; // number of languages as decimal text; "0": not translated
@@ -35,8 +35,8 @@ struct FormAnalysis {
 // Throws Error for a form file that cannot be read.
 FormAnalysis AnalyzeFormFile(const std::string& formFile);
 
-// One row per project entry that has a form, in project order. A form file that cannot be read gives a row without
-// a component; its error is appended to `errors`.
+// One row per project entry that has a form, in project order. A form file that cannot be read gives a row
+// without a component; its error is appended to `errors`.
 FormsList ListProjectForms(const IOTAProject& project, std::vector<std::string>& errors);
 
 } // namespace glotta

@@ -11,24 +11,23 @@ constexpr std::size_t pieceLength = 1024;
 
 template <class Editor> Editor* FirstEditor(IOTAModule* module) {
     for (int i = 0; module && i < module->GetModuleFileCount(); ++i)
-        if (auto* editor = dynamic_cast<Editor*>(module->GetModuleFileEditor(i)))
-            return editor;
+        if (auto* editor = dynamic_cast<Editor*>(module->GetModuleFileEditor(i))) return editor;
     return nullptr;
 }
 
 // The first open module for which `matches` holds.
 template <class Matches> IOTAModule* FindOpenModule(IOTAModuleServices& modules, Matches matches) {
     for (int i = 0; i < modules.ModuleCount(); ++i)
-        if (IOTAModule* module = modules.GetModule(i); module && matches(*module))
-            return module;
+        if (IOTAModule* module = modules.GetModule(i); module && matches(*module)) return module;
     return nullptr;
 }
 
 // A file of exactly this name before one that differs in letter case.
 IOTAModule* FindOpenFile(IOTAModuleServices& modules, const std::string& fileName) {
     IOTAModule* exact = FindOpenModule(modules, [&](IOTAModule& m) { return m.FileName() == fileName; });
-    return exact ? exact
-                 : FindOpenModule(modules, [&](IOTAModule& m) { return SameFileName(m.FileName(), fileName); });
+    return exact
+               ? exact
+               : FindOpenModule(modules, [&](IOTAModule& m) { return SameFileName(m.FileName(), fileName); });
 }
 
 std::string ReadWhole(IOTASourceEditor& editor) {
@@ -37,8 +36,7 @@ std::string ReadWhole(IOTASourceEditor& editor) {
     for (std::size_t position = 0;; position += pieceLength) {
         const std::string piece = reader->GetText(position, pieceLength);
         text += piece;
-        if (CharCount(piece) < pieceLength)
-            return text;
+        if (CharCount(piece) < pieceLength) return text;
     }
 }
 
@@ -54,7 +52,8 @@ Selection SelectionOf(IOTASourceEditor& editor) {
 } // namespace
 
 IOTAProjectGroup* IdeServices::GetActiveProjectGroup() {
-    return AsProjectGroup(FindOpenModule(ide_.modules, [](IOTAModule& module) { return AsProjectGroup(&module); }));
+    return AsProjectGroup(
+        FindOpenModule(ide_.modules, [](IOTAModule& module) { return AsProjectGroup(&module); }));
 }
 
 IOTAProject* IdeServices::GetActiveProject() {
@@ -65,8 +64,7 @@ IOTAProject* IdeServices::GetActiveProject() {
 }
 
 IOTAProject& IdeServices::RequireActiveProject() {
-    if (IOTAProject* project = GetActiveProject())
-        return *project;
+    if (IOTAProject* project = GetActiveProject()) return *project;
     ui_.MessageDlg("Project is NIL!", MsgType::Plain);
     throw EGlottaSilent();
 }
@@ -84,8 +82,7 @@ IOTASourceEditor* IdeServices::GetSourceEditorFromFormName(const std::string& fo
     if (const FormsListItem* item = forms_.FindText(formName))
         return GetSourceEditorFromFileName(item->fileName);
     for (const IOTAModuleInfo& info : RequireActiveProject().Modules())
-        if (SameText(info.formName, formName))
-            return GetSourceEditorFromFileName(info.fileName);
+        if (SameText(info.formName, formName)) return GetSourceEditorFromFileName(info.fileName);
     return nullptr;
 }
 
@@ -97,7 +94,9 @@ IOTAModule* IdeServices::GetFormIdeModule(const std::string& formName) {
     return last;
 }
 
-IOTAModule* IdeServices::GetCurrentIdeModule() { return ide_.modules.CurrentModule(); }
+IOTAModule* IdeServices::GetCurrentIdeModule() {
+    return ide_.modules.CurrentModule();
+}
 
 IOTAFormEditor* IdeServices::GetFormEditorFromModule(IOTAModule* module) {
     return FirstEditor<IOTAFormEditor>(module);
@@ -120,8 +119,7 @@ IDesigner* IdeServices::GetDesignerByFormName(const std::string& formName) {
 
 TComponent* IdeServices::GetComponentOnForm(const std::string& formName, const std::string& componentName) {
     const FormsListItem* item = forms_.FindExact(formName);
-    if (!item || !OpenFile(item->fileName, false) || !TestForCorrectForm(formName))
-        return nullptr;
+    if (!item || !OpenFile(item->fileName, false) || !TestForCorrectForm(formName)) return nullptr;
     TComponent* root = GetOwnerByName(formName);
     return root ? root->FindComponent(componentName) : nullptr;
 }
@@ -137,22 +135,24 @@ bool IdeServices::IsDataModule(const std::string& formName) {
 }
 
 bool IdeServices::TestForCorrectForm(const std::string& formName) {
-    if (ide_.modules.FindFormModule(formName))
-        return true;
+    if (ide_.modules.FindFormModule(formName)) return true;
     ui_.MessageDlg("Unable to obtain the interface of form module! Please check your project source.",
                    MsgType::Error);
-    if (mainWindow)
-        ui_.BringToFront(*mainWindow);
+    if (mainWindow) ui_.BringToFront(*mainWindow);
     return false;
 }
 
-bool IdeServices::IsFileOpen(const std::string& fileName) { return FindOpenFile(ide_.modules, fileName); }
+bool IdeServices::IsFileOpen(const std::string& fileName) {
+    return FindOpenFile(ide_.modules, fileName);
+}
 
 bool IdeServices::OpenFile(const std::string& fileName, bool show) {
     return (!show && IsFileOpen(fileName)) || ide_.actions.OpenFile(fileName);
 }
 
-bool IdeServices::CloseFile(const std::string& fileName) { return ide_.actions.CloseFile(fileName); }
+bool IdeServices::CloseFile(const std::string& fileName) {
+    return ide_.actions.CloseFile(fileName);
+}
 
 bool IdeServices::SaveFile(const std::string& fileName) {
     IOTAModule* module = GetModuleFromFileName(fileName);
@@ -166,18 +166,18 @@ void IdeServices::MarkModifiedForm(const std::string& fileName) {
 
 std::string IdeServices::GetUnitSource(const std::string& fileName) {
     IOTASourceEditor* editor = GetSourceEditorFromFileName(fileName);
-    if (!editor)
-        return {};
+    if (!editor) return {};
     const Progress progress(ui_, "Scanning...");
     return ReadWhole(*editor);
 }
 
-IOTASourceEditor* IdeServices::GetCurrentSourceEditor() { return GetSourceEditorFromModule(GetCurrentIdeModule()); }
+IOTASourceEditor* IdeServices::GetCurrentSourceEditor() {
+    return GetSourceEditorFromModule(GetCurrentIdeModule());
+}
 
 std::string IdeServices::GetSelectedSourceText() {
     IOTASourceEditor* editor = GetCurrentSourceEditor();
-    if (!editor)
-        return {};
+    if (!editor) return {};
     const Selection selection = SelectionOf(*editor);
     return selection.end > selection.begin
                ? editor->CreateReader()->GetText(selection.begin, selection.end - selection.begin)
@@ -186,8 +186,7 @@ std::string IdeServices::GetSelectedSourceText() {
 
 void IdeServices::ReplaceSelectedSourceText(std::string_view text) {
     IOTASourceEditor* editor = GetCurrentSourceEditor();
-    if (!editor)
-        return;
+    if (!editor) return;
     const Selection selection = SelectionOf(*editor);
     const auto writer = editor->CreateUndoableWriter();
     writer->CopyTo(selection.begin);
@@ -205,10 +204,8 @@ int IdeServices::GetLineByPos(std::string_view text, std::size_t position) {
 
 int IdeServices::Pos2Line4CurrentSource(std::size_t position, std::string_view text) {
     IOTASourceEditor* editor = GetCurrentSourceEditor();
-    if (!editor)
-        return -1;
-    if (modeMarker == selectionMarker)
-        position += SelectionOf(*editor).begin;
+    if (!editor) return -1;
+    if (modeMarker == selectionMarker) position += SelectionOf(*editor).begin;
     return GetLineByPos(text, position);
 }
 
