@@ -21,6 +21,10 @@ using Byte = unsigned char;
 bool IsRawByte(char32_t character) {
     return character >= RawByte && character <= RawByte + 0xFF;
 }
+// Raw ASCII bytes come from double-byte pages and UTF-16 only; elsewhere they would turn text into syntax.
+bool IsRawHighByte(char32_t character) {
+    return IsRawByte(character) && character >= RawByte + 0x80;
+}
 bool IsRawUnit(char32_t character) {
     return character >= RawUnit && character <= RawUnit + 0x7FF;
 }
@@ -81,10 +85,16 @@ void EncodeUtf8(std::string_view text, EncodeResult& result) {
         result.bytes.append(text, pos, end - pos);
         pos = end;
         if (pos >= text.size()) break;
-        if (CharLength(text, pos) == 0)
+        if (CharLength(text, pos) == 0) {
             result.bytes += text[pos++];
-        else
-            result.bytes += ByteOf(NextChar(text, pos));
+            continue;
+        }
+        const char32_t character = NextChar(text, pos);
+        if (!IsRawHighByte(character)) {
+            result.unencodable = character;
+            return;
+        }
+        result.bytes += ByteOf(character);
     }
 }
 
@@ -186,7 +196,7 @@ void EncodeCodePage(std::string_view text, const CodePageTable& table, EncodeRes
         pos = end;
         while (pos < text.size() && Byte(text[pos]) >= 0x80) {
             const char32_t character = NextChar(text, pos);
-            if (IsRawByte(character)) {
+            if (IsRawHighByte(character) || (IsRawByte(character) && !table.pairs.empty())) {
                 result.bytes += ByteOf(character);
                 continue;
             }

@@ -1,6 +1,7 @@
 #include "platform/Text.h"
 
 #include "platform/CaseMap.h"
+#include "platform/LineSpans.h"
 
 #include <cstring>
 
@@ -202,9 +203,9 @@ std::string ReplaceStr(std::string_view text, std::string_view from, std::string
 std::vector<std::string> SplitLines(std::string_view text) {
     std::vector<std::string> lines;
     for (std::size_t pos = 0; pos < text.size();) {
-        const std::size_t end = std::min(text.find_first_of("\r\n", pos), text.size());
-        lines.emplace_back(text.substr(pos, end - pos));
-        pos = end + (text.substr(end, 2) == "\r\n" ? 2 : 1);
+        const LineSpan span = LineAt(text, pos);
+        lines.emplace_back(text.substr(pos, span.end - pos));
+        pos = span.next;
     }
     return lines;
 }

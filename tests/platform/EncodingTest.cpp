@@ -137,5 +137,7 @@ TEST(Encoding, NamesTheFirstCharacterItLacks) {
     EXPECT_EQ(Encode("é ", Named("932")).unencodable, U'é');
     EXPECT_TRUE(CanEncode("é\U0010FE81", Named("1252")));
     EXPECT_FALSE(CanEncode("\U0010F000", Named("1252")));
+    for (const char* name : {"1252", "utf-8"}) // a raw quote would end a literal
+        EXPECT_FALSE(CanEncode("\U0010FE27", Named(name)));
     EXPECT_TRUE(CanEncode("Ж😀", Named("utf-16le")));
 }

@@ -1,7 +1,6 @@
 #include "platform/Files.h"
-#include "platform/Error.h"
+#include "support/TempFolder.h"
 
-#include <fstream>
 #include <thread>
 
 using namespace glotta;
@@ -11,40 +10,12 @@ namespace {
 
 class Files : public testing::Test {
 protected:
-    Files() : dir(fs::temp_directory_path() / ("glotta-files-" + std::to_string(::getpid()))) {
-        fs::remove_all(dir);
-        fs::create_directories(dir);
-    }
-    ~Files() override { fs::remove_all(dir); }
+    fs::path Put(const std::string& name, const std::string& bytes) { return folder.Put(name, bytes); }
+    std::string Shown() { return folder.Shown(); }
 
-    fs::path Put(const std::string& name, const std::string& bytes) {
-        fs::create_directories((dir / name).parent_path());
-        std::ofstream(dir / name, std::ios::binary) << bytes;
-        return dir / name;
-    }
-    // Names and contents of all files, in order.
-    std::string Shown() {
-        std::map<std::string, std::string> found;
-        for (const auto& entry : fs::recursive_directory_iterator(dir))
-            if (entry.is_regular_file())
-                found[entry.path().lexically_relative(dir).generic_string()] = ReadFile(entry.path());
-        std::string shown;
-        for (const auto& [name, bytes] : found)
-            shown += name + "=" + bytes + ";";
-        return shown;
-    }
-
-    fs::path dir;
+    TempFolder folder;
+    const fs::path dir = folder.Path();
 };
-
-std::string MessageOf(const std::function<void()>& act) {
-    try {
-        act();
-    } catch (const Error& error) {
-        return error.what();
-    }
-    return "no error";
-}
 
 } // namespace
 
