@@ -40,7 +40,7 @@ std::string Dump(const ProjectDescription& project, const TempFolder& folder) {
 std::string Read(const Files& files) {
     const TempFolder folder;
     for (const auto& [name, bytes] : files)
-        folder.Write(name, bytes);
+        folder.Put(name, bytes);
     const std::filesystem::path file = folder.Path() / files.front().first;
     try {
         if (!IsProjectGroupFile(file)) return Dump(ReadProject(file), folder);
@@ -232,8 +232,8 @@ TEST(ProjectFiles, AProjectFileThatCannotBeReadIsAnError) {
         "program App.dpr\nA A.pas\n! App.dproj: line 1: not well-formed XML: Could not determine tag type\n");
     EXPECT_THROW(ReadProject("/nowhere/App.dpr"), Error);
     const TempFolder folder;
-    EXPECT_TRUE(IsProjectFile(folder.Write("App.cpp", "USEFORM(\"Main.cpp\", Form1);")));
-    EXPECT_FALSE(IsProjectFile(folder.Write("Main.cpp", "// USEFORM(\"Main.cpp\", Form1);")));
+    EXPECT_TRUE(IsProjectFile(folder.Put("App.cpp", "USEFORM(\"Main.cpp\", Form1);")));
+    EXPECT_FALSE(IsProjectFile(folder.Put("Main.cpp", "// USEFORM(\"Main.cpp\", Form1);")));
 }
 
 } // namespace

@@ -2,36 +2,16 @@
 #pragma once
 #include "ide/Services.h"
 #include "platform/Text.h"
+#include "support/ScriptedUi.h"
 
 #include <deque>
 #include <stdexcept>
 
 namespace glotta {
 
-// Writes down what it is told; every question is answered by its default.
-class LoggingUi : public Ui {
-public:
-    explicit LoggingUi(std::vector<std::string>& log) : log_(log) {}
-    ModalResult MessageDlg(const std::string& text, MsgType, const MsgButtons&, const std::string&) override {
-        log_.push_back("message: " + text);
-        return ModalResult::OK;
-    }
-    std::optional<std::string> InputBox(const std::string&, const std::string&, const std::string&) override {
-        return {};
-    }
-    bool Execute(FileDialog&) override { return false; }
-    ModalResult ShowModal(TForm&) override { return ModalResult::Cancel; }
-    void Show(TForm&) override {}
-    void BringToFront(TForm&) override { log_.push_back("bring to front"); }
-    void SetProgress(const std::string& text) override { log_.push_back("progress: " + text); }
-
-private:
-    std::vector<std::string>& log_;
-};
-
 class FakeSource : public IOTASourceEditor, public IOTAEditView {
 public:
-    FakeSource(IOTAModule& module, std::string text) : text(std::move(text)), module_(module) {}
+    FakeSource(IOTAModule& module, std::string content) : text(std::move(content)), module_(module) {}
     std::string text;
     EditPos start, after;
     bool failing = false;
@@ -175,7 +155,7 @@ public:
     std::vector<IOTAModule*> open;
     IOTAModule* current = nullptr;
     bool succeeds = true; // what the action services answer
-    LoggingUi ui{log};
+    ScriptedUi ui;
     FormsList forms;
     IdeServices services{BorlandIDEServices{*this, *this}, forms, ui};
 
@@ -196,9 +176,11 @@ public:
         forms.items.push_back(item);
         return module;
     }
+    // What was asked of the IDE, then of the user, since the last call.
     std::string Log() {
-        std::string text = JoinLines(log, "; ");
+        std::string text = JoinLines(log, "\n") + (log.empty() ? "" : "\n") + ui.Transcript().substr(told_);
         log.clear();
+        told_ = ui.Transcript().size();
         return text;
     }
 
@@ -225,6 +207,7 @@ private:
         return succeeds;
     }
     std::deque<FakeModule> modules_;
+    std::size_t told_ = 0;
 };
 
 } // namespace glotta
