@@ -1,0 +1,127 @@
+#include "scanner/CallPlaces.h"
+
+#include "scanner/CallPlacesWalk.h"
+
+namespace glotta {
+
+using places::Place;
+using places::Reason;
+
+namespace places {
+
+std::string_view Phrase(Reason reason) {
+    static constexpr std::string_view phrases[] = {
+        "",
+        "cuts a token",
+        "inside a comment",
+        "in a directive",
+        "in assembler code",
+        "behind the end of the unit",
+        "in a const section",
+        "in a resourcestring section",
+        "initial value of a variable",
+        "in a type section",
+        "file of a used unit",
+        "name of an exported routine",
+        "name of an external routine",
+        "default value of a parameter",
+        "in an attribute",
+        "interface GUID",
+        "text of a deprecated or platform directive",
+        "in a message directive",
+        "in a declaration",
+        "in an inline constant",
+        "in a range",
+        "single character, may be a Char",
+        "label of a case statement",
+        "at file or class scope",
+        "default argument",
+        "static initialiser",
+        "array initialiser",
+        "adjacent to another literal or a macro",
+        "in sizeof",
+        "in a constant expression",
+        "template argument",
+    };
+    static_assert(std::size(phrases) == static_cast<std::size_t>(Reason::Count));
+    return phrases[static_cast<std::size_t>(reason)];
+}
+
+Branch BranchOf(std::string_view directive) {
+    const std::size_t start = directive.find_first_not_of("{(*$# \t");
+    if (start == std::string_view::npos) return Branch::None;
+    char word[8] = {};
+    for (std::size_t i = 0; i < 7 && start + i < directive.size(); ++i) {
+        const char c = static_cast<char>(directive[start + i] | 0x20);
+        if (c < 'a' || c > 'z') break;
+        word[i] = c;
+    }
+    const std::string_view name = word;
+    if (name == "endif" || name == "ifend") return Branch::EndIf;
+    if (name.starts_with("else") || name.starts_with("elif")) return Branch::Else;
+    return name == "if" || name == "ifdef" || name == "ifndef" || name == "ifopt" ? Branch::If : Branch::None;
+}
+
+} // namespace places
+
+struct CallPlaces::Impl {
+    std::string_view text;
+    bool isCpp;
+    places::Walked walked;
+
+    // The place that holds the byte; null when there is none.
+    const Place* At(std::size_t byte) const {
+        auto next = std::upper_bound(walked.places.begin(), walked.places.end(), byte,
+                                     [](std::size_t b, const Place& place) { return b < place.begin; });
+        if (next == walked.places.begin() || (next - 1)->end <= byte) return nullptr;
+        return &*(next - 1);
+    }
+    bool Covers(std::string_view expression, const Token& token) const {
+        const std::string_view word = expression.substr(token.begin, token.end - token.begin);
+        if (token.kind == TokenKind::Symbol) return word == "+" || (isCpp && (word == "(" || word == ")"));
+        return isCpp && token.kind == TokenKind::Identifier &&
+               (word == "_T" || word == "TEXT" || word == "_TEXT" || word == "__T" || word == "__TEXT");
+    }
+    Reason WhyNot(std::size_t begin, std::size_t end) const;
+};
+
+Reason CallPlaces::Impl::WhyNot(std::size_t begin, std::size_t end) const {
+    const Place* first = At(begin);
+    if (first && !first->literal) return first->reason;
+    if (begin >= end || end > text.size() || (first && first->begin != begin)) return Reason::CutsToken;
+    const std::string_view expression = text.substr(begin, end - begin);
+    Reason reason = Reason::None;
+    const Place* last = nullptr;
+    std::size_t covered = 0;
+    for (const Token& token : Tokenize(expression, isCpp, KeepComments::Yes)) {
+        covered = token.end;
+        if (token.kind != TokenKind::String) {
+            if (!Covers(expression, token)) return Reason::CutsToken;
+            continue;
+        }
+        const Place* place = At(begin + token.begin);
+        if (!place || !place->literal || place->begin != begin + token.begin ||
+            place->end != begin + token.end)
+            return Reason::CutsToken;
+        if (reason == Reason::None) reason = place->reason;
+        if (!last && place->joinedBefore && reason == Reason::None) reason = Reason::Adjacent;
+        last = place;
+    }
+    if (!last || covered != expression.size()) return Reason::CutsToken;
+    return reason == Reason::None && last->joinedBehind ? Reason::Adjacent : reason;
+}
+
+CallPlaces::CallPlaces(std::string_view text, bool isCpp)
+    : impl_(new Impl{text, isCpp, isCpp ? places::WalkCpp(text) : places::WalkPascal(text)}) {}
+
+CallPlaces::~CallPlaces() = default;
+
+std::string_view CallPlaces::WhyNot(std::size_t begin, std::size_t end) const {
+    return places::Phrase(impl_->WhyNot(begin, end));
+}
+
+const std::vector<CallPlaces::ConstSection>& CallPlaces::ConstSections() const {
+    return impl_->walked.constSections;
+}
+
+} // namespace glotta

@@ -1,0 +1,433 @@
+// C and C++: a call can stand inside function bodies and constructor initialisers alone.
+#include "scanner/CallPlacesWalk.h"
+
+#include "ide/CppLexer.h"
+#include "scanner/WordTable.h"
+
+namespace glotta::places {
+
+namespace {
+
+enum class Word : std::uint8_t {
+    None,
+    Namespace,
+    Class, // and struct, union
+    Enum,
+    Static, // and constexpr and its like
+    Extern,
+    Case,
+    Operator,
+    Template,
+    Control,   // a statement may follow directly
+    Qualifier, // may stand between parameters and body
+    Assembler,
+    SizeOf,
+    Constant,
+    Attribute,
+    Connective // "and", "or"
+};
+
+constexpr std::pair<std::string_view, Word> words[] = {
+    {"namespace", Word::Namespace},
+    {"class", Word::Class},
+    {"struct", Word::Class},
+    {"union", Word::Class},
+    {"__interface", Word::Class},
+    {"enum", Word::Enum},
+    {"static", Word::Static},
+    {"constexpr", Word::Static},
+    {"constinit", Word::Static},
+    {"thread_local", Word::Static},
+    {"__thread", Word::Static},
+    {"extern", Word::Extern},
+    {"case", Word::Case},
+    {"operator", Word::Operator},
+    {"template", Word::Template},
+    {"return", Word::Control},
+    {"else", Word::Control},
+    {"do", Word::Control},
+    {"throw", Word::Control},
+    {"goto", Word::Control},
+    {"new", Word::Control},
+    {"delete", Word::Control},
+    {"default", Word::Control},
+    {"co_return", Word::Control},
+    {"co_yield", Word::Control},
+    {"co_await", Word::Control},
+    {"this", Word::Control},
+    {"__finally", Word::Control},
+    {"const", Word::Qualifier},
+    {"volatile", Word::Qualifier},
+    {"override", Word::Qualifier},
+    {"final", Word::Qualifier},
+    {"noexcept", Word::Qualifier},
+    {"try", Word::Qualifier},
+    {"__try", Word::Qualifier},
+    {"mutable", Word::Qualifier},
+    {"asm", Word::Assembler},
+    {"_asm", Word::Assembler},
+    {"__asm", Word::Assembler},
+    {"__asm__", Word::Assembler},
+    {"sizeof", Word::SizeOf},
+    {"alignof", Word::SizeOf},
+    {"decltype", Word::SizeOf},
+    {"static_assert", Word::Constant},
+    {"_Static_assert", Word::Constant},
+    {"_Pragma", Word::Constant},
+    {"__pragma", Word::Constant},
+    {"__declspec", Word::Attribute},
+    {"__attribute__", Word::Attribute},
+    {"__attribute", Word::Attribute},
+    {"alignas", Word::Attribute},
+    {"and", Word::Connective},
+    {"or", Word::Connective},
+    {"not", Word::Connective},
+};
+constexpr WordTable<Word, std::size(words), LetterCase::Matters> wordTable(words);
+
+enum class Frame : std::uint8_t { Scope, Class, Enum, Block, Group }; // Group: parentheses or brackets
+
+// What the present declaration or statement has shown so far.
+enum Seen : std::uint16_t {
+    Equals = 1,
+    Parameters = 2,      // a closed group
+    ParametersLast = 4,  // with nothing but qualifiers behind it
+    ConstructorList = 8, // the ":" of a constructor's initialisers
+    ClassWord = 16,
+    EnumWord = 32,
+    NamespaceWord = 64,
+    ExternWord = 128,
+    StaticWord = 256,
+    ArrayName = 512,      // "char x["
+    ArrayDeclared = 1024, // "char x[] ="
+    CaseWord = 2048,
+    AssemblerWord = 4096,
+    NotADeclaration = 8192
+};
+
+// What stands before a token: a symbol's first character, or one of these.
+enum Before : char { Nothing = 0, AWord = 'a', ANumber = '0', ALiteral = '"', Comparison = 'c' };
+
+struct State {
+    std::uint32_t parent = 0;
+    std::uint32_t angles = 0; // open ones behind "template"
+    Frame frame = Frame::Scope;
+    Reason base = Reason::FileScope; // for a literal directly in this frame
+    std::uint16_t seen = 0;
+    std::uint8_t names = 0; // words of a possible declaration: "char x" has two
+    Word word = Word::None; // before
+    char before = Nothing;
+    bool inFunction = false;
+    bool ofWord = false;         // Group: behind sizeof, __declspec and their like
+    bool mayBeAttribute = false; // Group: a bracket where no subscript can stand
+};
+
+class Walker {
+public:
+    explicit Walker(std::string_view text) : text_(text) {}
+
+    Walked Walk() {
+        cpp::Lexer lexer(text_);
+        for (Token token; lexer.Next(token);)
+            Take(token);
+        return std::move(out_);
+    }
+
+private:
+    std::string_view TextOf(const Token& token) const {
+        return text_.substr(token.begin, token.end - token.begin);
+    }
+
+    void Take(const Token& token) {
+        switch (token.kind) {
+        case TokenKind::Identifier: {
+            const Word word = wordTable.Find(TextOf(token));
+            TakeWord(word);
+            s_.word = word;
+            s_.before = AWord;
+            return;
+        }
+        case TokenKind::Symbol:
+            TakeSymbol(token);
+            return;
+        case TokenKind::String:
+            TakeLiteral(token);
+            return;
+        case TokenKind::Directive:
+            Cover(token, Reason::Directive);
+            TakeDirective(TextOf(token));
+            return;
+        case TokenKind::Comment:
+            return Cover(token, Reason::Comment);
+        case TokenKind::Asm:
+            return Cover(token, Reason::Assembler);
+        case TokenKind::Character:
+        case TokenKind::Bad:
+            Cover(token, Reason::CutsToken);
+            [[fallthrough]];
+        default:
+            s_.seen |= NotADeclaration;
+            s_.before = ANumber;
+        }
+    }
+
+    void Cover(const Token& token, Reason reason) {
+        if (TextOf(token).find('"') != std::string_view::npos)
+            out_.places.push_back({token.begin, token.end, reason});
+    }
+
+    bool Has(unsigned flags) const { return s_.seen & flags; }
+    void Forget() {
+        s_.seen = 0;
+        s_.names = 0;
+    }
+
+    // Why no call can stand at a literal that comes now.
+    Reason Effective() const {
+        if (Has(AssemblerWord)) return Reason::Assembler;
+        if (s_.frame == Frame::Scope || s_.frame == Frame::Class)
+            return Has(ConstructorList) ? Reason::None : s_.base;
+        if (s_.base != Reason::None)
+            return s_.base == Reason::FileScope && s_.frame == Frame::Group && Has(Equals)
+                       ? Reason::DefaultArgument
+                       : s_.base;
+        return Has(StaticWord)      ? Reason::StaticInitialiser
+               : Has(ArrayDeclared) ? Reason::ArrayInitialiser
+               : Has(CaseWord)      ? Reason::CaseLabel
+                                    : Reason::None;
+    }
+
+    void Push(Frame frame, Reason base, bool inFunction) {
+        State inner;
+        inner.frame = frame;
+        inner.base = base;
+        inner.inFunction = inFunction;
+        nesting_.Push(s_, inner);
+        s_ = inner;
+    }
+
+    void TakeLiteral(const Token& token) {
+        const bool behindLiteral = s_.before == ALiteral;
+        const bool behindMacro = s_.before == AWord && s_.word == Word::None;
+        if (behindLiteral) out_.places.back().joinedBehind = true;
+        Place place{token.begin, token.end, Effective(), true};
+        place.joinedBefore = behindLiteral || behindMacro;
+        out_.places.push_back(place);
+        behindAngle_ = s_.before == '<';
+        s_.seen |= NotADeclaration;
+        s_.before = ALiteral;
+    }
+
+    void TakeWord(Word word) {
+        if (s_.before == ALiteral && word == Word::None) out_.places.back().joinedBehind = true;
+        if (s_.angles) return;
+        if (word != Word::Qualifier) s_.seen &= static_cast<std::uint16_t>(~ParametersLast);
+        switch (word) {
+        case Word::None:
+            if (!Has(NotADeclaration) && s_.before != ':' && s_.before != '.' && s_.names < 2) ++s_.names;
+            return;
+        case Word::Namespace:
+            s_.seen |= NamespaceWord;
+            return;
+        case Word::Class:
+            s_.seen |= ClassWord;
+            return;
+        case Word::Enum:
+            s_.seen |= EnumWord;
+            return;
+        case Word::Static:
+            s_.seen |= StaticWord;
+            return;
+        case Word::Extern:
+            s_.seen |= ExternWord;
+            return;
+        case Word::Case:
+            s_.seen |= CaseWord;
+            return;
+        case Word::Assembler:
+            s_.seen |= AssemblerWord;
+            return;
+        case Word::Control:
+            s_.names = 0;
+            return;
+        default:
+            return;
+        }
+    }
+
+    void TakeSymbol(const Token& token) {
+        const char symbol = text_[token.begin];
+        const std::size_t length = token.end - token.begin;
+        switch (symbol) {
+        case '(':
+            Open(symbol);
+            return;
+        case '[':
+            if (!Has(NotADeclaration) && s_.names == 2 && s_.before == AWord) s_.seen |= ArrayName;
+            Open(symbol);
+            return;
+        case ')':
+        case ']':
+            Close(symbol);
+            return;
+        case '{':
+            OpenBrace();
+            s_.before = '{';
+            return;
+        case '}':
+            CloseBrace();
+            s_.before = '}';
+            return;
+        case ';':
+            Forget();
+            s_.angles = 0;
+            break;
+        case ':':
+            if (length == 1) TakeColon();
+            break;
+        case '=':
+            if (length == 1) TakeEquals();
+            break;
+        case '<':
+        case '>':
+            if (length <= 2) TakeAngle(symbol, length, text_[token.end - 1] != symbol);
+            break;
+        case '*':
+        case '&':
+        case ',':
+            break;
+        default:
+            s_.seen |= NotADeclaration;
+        }
+        if (symbol != '&' && !(symbol == ':' && length == 2))
+            s_.seen &= static_cast<std::uint16_t>(~ParametersLast);
+        s_.before = length > 1 && symbol != ':' && symbol != '.' && symbol != '-'
+                        ? static_cast<char>(Comparison)
+                        : symbol;
+        if (symbol == '-' && length > 1) s_.before = '.';
+    }
+
+    void TakeAngle(char symbol, std::size_t length, bool compares) {
+        if (symbol == '>' && length == 1 && s_.before == ALiteral && behindAngle_)
+            out_.places.back().reason = Reason::TemplateArgument;
+        if (compares && length == 2) {
+            s_.seen |= NotADeclaration;
+        } else if (symbol == '<' && s_.before == AWord && s_.word == Word::Template) {
+            s_.angles = 1;
+        } else if (s_.angles) {
+            const auto count = static_cast<std::uint32_t>(length);
+            s_.angles = symbol == '<' ? s_.angles + count : s_.angles - std::min(s_.angles, count);
+        } else if (length == 2) {
+            s_.seen |= NotADeclaration;
+        }
+    }
+
+    void TakeEquals() {
+        if (s_.angles || (s_.before == AWord && s_.word == Word::Operator)) return;
+        if (s_.before == ']' && Has(ArrayName)) s_.seen |= ArrayDeclared;
+        s_.seen |= Equals | NotADeclaration;
+    }
+
+    void TakeColon() {
+        if (s_.frame == Frame::Scope || s_.frame == Frame::Class) {
+            if (Has(ParametersLast) && !Has(Equals)) s_.seen |= ConstructorList;
+        } else if (Has(CaseWord)) {
+            Forget();
+        }
+    }
+
+    void Open(char symbol) {
+        const bool word = s_.before == AWord;
+        const bool ofWord = word && (s_.word == Word::SizeOf || s_.word == Word::Constant ||
+                                     s_.word == Word::Attribute || s_.word == Word::Assembler);
+        const bool attribute = symbol == '[' && s_.before == '[' && s_.mayBeAttribute;
+        const Reason base = attribute                    ? Reason::Attribute
+                            : !ofWord                    ? Effective()
+                            : s_.word == Word::SizeOf    ? Reason::SizeOf
+                            : s_.word == Word::Attribute ? Reason::Attribute
+                            : s_.word == Word::Assembler ? Reason::Assembler
+                                                         : Reason::ConstantExpression;
+        const bool subscript = word || s_.before == ')' || s_.before == ']' || s_.before == ALiteral;
+        Push(Frame::Group, base, s_.inFunction);
+        s_.ofWord = ofWord;
+        s_.mayBeAttribute = symbol == '[' && !subscript;
+        s_.before = symbol;
+    }
+
+    void Close(char symbol) {
+        const bool ofWord = s_.ofWord;
+        if (s_.frame == Frame::Group) nesting_.Pop(s_);
+        if (symbol == ')' && !ofWord && !s_.angles) s_.seen |= Parameters | ParametersLast | NotADeclaration;
+        s_.before = symbol;
+    }
+
+    void OpenBrace() {
+        const Reason effective = BraceReason();
+        const bool declares = s_.frame == Frame::Scope || s_.frame == Frame::Class;
+        s_.angles = 0;
+        if (Has(EnumWord) && !Has(Parameters | Equals))
+            Push(Frame::Enum, Reason::FileScope, false);
+        else if (declares && IsScope())
+            Push(Frame::Scope, Reason::FileScope, false);
+        else if (Has(ClassWord) && !Has(Equals | ParametersLast) && !(s_.inFunction && Has(Parameters)))
+            Push(Frame::Class, Reason::FileScope, false);
+        else if (declares && IsBody())
+            Push(Frame::Block, Reason::None, true);
+        else
+            Push(Frame::Block, effective, s_.inFunction || effective == Reason::None);
+    }
+    Reason BraceReason() {
+        if (s_.before == ']' && Has(ArrayName)) s_.seen |= ArrayDeclared;
+        return Effective();
+    }
+    bool IsScope() const {
+        return Has(NamespaceWord) || (Has(ExternWord) && s_.before == ALiteral && !Has(Parameters | Equals));
+    }
+    // Behind a constructor's ":" a brace opens the body unless it belongs to a member: "a(1), b{2} {".
+    bool IsBody() const {
+        if (Has(ConstructorList))
+            return s_.before == ')' || s_.before == '}' || (s_.before == AWord && s_.word != Word::None);
+        return Has(Parameters) && !Has(Equals);
+    }
+
+    void CloseBrace() {
+        while (s_.frame == Frame::Group && nesting_.Pop(s_)) {
+        }
+        const bool wasBody = s_.inFunction;
+        if (!nesting_.Pop(s_)) return Forget();
+        const bool memberBrace = Has(ConstructorList) && s_.before != ')' && s_.before != '}' &&
+                                 !(s_.before == AWord && s_.word != Word::None);
+        const bool goesOn = s_.frame == Frame::Group || memberBrace || Has(Equals | ArrayDeclared) ||
+                            (Has(StaticWord) && wasBody && s_.inFunction);
+        if (!goesOn) Forget();
+    }
+
+    void TakeDirective(std::string_view directive) {
+        if (directive[0] != '#') return;
+        switch (BranchOf(directive)) {
+        case Branch::If:
+            return nesting_.BeginBranch(s_);
+        case Branch::Else:
+            if (const State* start = nesting_.BranchStart()) s_ = *start;
+            return;
+        case Branch::EndIf:
+            return nesting_.EndBranch();
+        default:
+            return;
+        }
+    }
+
+    std::string_view text_;
+    Walked out_;
+    State s_;
+    Nesting<State> nesting_;
+    bool behindAngle_ = false; // the last literal
+};
+
+} // namespace
+
+Walked WalkCpp(std::string_view text) {
+    return Walker(text).Walk();
+}
+
+} // namespace glotta::places

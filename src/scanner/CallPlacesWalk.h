@@ -1,0 +1,91 @@
+// The walk over a unit that finds out for each literal whether a call could stand in its place.
+#pragma once
+#include "scanner/CallPlaces.h"
+
+namespace glotta::places {
+
+enum class Reason : std::uint8_t {
+    None,
+    CutsToken,
+    Comment,
+    Directive,
+    Assembler,
+    // Pascal
+    AfterEnd,
+    ConstSection,
+    ResourceString,
+    Variable,
+    TypeSection,
+    UsedUnit,
+    ExportedName,
+    External,
+    DefaultParameter,
+    Attribute,
+    Guid,
+    Deprecated,
+    Message,
+    Declaration,
+    InlineConst,
+    Range,
+    SingleCharacter,
+    CaseLabel,
+    // C/C++
+    FileScope,
+    DefaultArgument,
+    StaticInitialiser,
+    ArrayInitialiser,
+    Adjacent,
+    SizeOf,
+    ConstantExpression,
+    TemplateArgument,
+    Count
+};
+std::string_view Phrase(Reason reason);
+
+// A literal, or a stretch of text with quotes in it that is none: a comment, a directive, assembler.
+struct Place {
+    std::uint32_t begin, end;
+    Reason reason = Reason::None;
+    bool literal = false;
+    bool joinedBefore = false, joinedBehind = false; // C/C++: adjacent literals and macros are one text
+};
+
+struct Walked {
+    std::vector<Place> places; // ascending
+    std::vector<CallPlaces::ConstSection> constSections;
+};
+Walked WalkPascal(std::string_view text);
+Walked WalkCpp(std::string_view text);
+
+// What a directive does to the branches of a text.
+enum class Branch : std::uint8_t { None, If, Else, EndIf };
+Branch BranchOf(std::string_view directive);
+
+// Nesting and conditional branches of a walk. State has a member `std::uint32_t parent = 0`; frames are never
+// changed once pushed, so that a branch can be resumed at the cost of one copy, however deep the nesting.
+template <class State> class Nesting {
+public:
+    void Push(const State& outer, State& inner) {
+        frames_.push_back(outer);
+        inner.parent = static_cast<std::uint32_t>(frames_.size());
+    }
+    bool Pop(State& state) {
+        if (!state.parent) return false;
+        const std::uint32_t top = state.parent;
+        state = frames_[top - 1];
+        if (branches_.empty() && top == frames_.size()) frames_.pop_back();
+        return true;
+    }
+
+    // The state in which the present branch began; null outside branches.
+    const State* BranchStart() const { return branches_.empty() ? nullptr : &branches_.back(); }
+    void BeginBranch(const State& state) { branches_.push_back(state); }
+    void EndBranch() {
+        if (!branches_.empty()) branches_.pop_back();
+    }
+
+private:
+    std::vector<State> frames_, branches_;
+};
+
+} // namespace glotta::places
