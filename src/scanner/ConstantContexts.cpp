@@ -224,8 +224,8 @@ private:
     std::vector<bool> open_; // parentheses: whether those of a routine that takes a PChar
 };
 
-void ConstantContexts::Add(std::string_view unitText) {
-    Walk(*this, unitText).Run();
+void ConstantContexts::Add(const UnitTokens& unit) {
+    Walk(*this, unit).Run();
 }
 
 std::string_view ConstantContexts::WhyConstant(std::string_view name) const {
