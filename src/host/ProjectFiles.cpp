@@ -35,17 +35,25 @@ FormatOfExtension FormatOf(const fs::path& file) {
     return {{}, Format::None, false};
 }
 
+bool IsSource(Format format) {
+    return format == Format::DelphiSource || format == Format::UseMacros;
+}
+
 bool IsGroup(Format format) {
     return format == Format::MakefileGroup || format == Format::XmlGroup;
 }
 
-std::string ReadText(const fs::path& file) {
+// File names in a project file are in the project's code page.
+std::string ReadText(const fs::path& file, std::optional<unsigned> codePage = {}) {
     const std::string bytes = ReadFile(file);
-    return Decode(bytes, DetectEncoding(bytes));
+    if (!codePage) codePage = FindCodePageLine(bytes);
+    const auto hint = codePage ? EncodingByName(std::to_string(*codePage)) : std::nullopt;
+    return Decode(bytes, DetectEncoding(bytes, {}, hint));
 }
 
-ProjectListing ReadListing(const fs::path& file, const FormatOfExtension& format) {
-    const std::string text = ReadText(file);
+ProjectListing ReadListing(const fs::path& file, const FormatOfExtension& format,
+                           std::optional<unsigned> codePage = {}) {
+    const std::string text = ReadText(file, codePage);
     switch (format.format) {
     case Format::DelphiSource:
         return ListDelphiSource(text);
@@ -94,27 +102,28 @@ ProjectKind KindOf(const ProjectListing& listing, const fs::path& source) {
 }
 
 // A .dpr or .dpk named itself: its options file knows the code page, and more of the forms.
-void ReadOptionsFile(ProjectDescription& project, ProjectEntries& entries, PathResolver& paths) {
+ProjectListing ReadOptionsFile(ProjectDescription& project, PathResolver& paths) {
     for (const char* extension : {".dproj", ".bdsproj", ".dof"}) {
         const auto file = Beside(paths, project.file, extension);
         if (!file) continue;
+        ProjectListing options;
         try {
-            if (std::string_view(extension) == ".dof") {
-                project.codePage = FindCodePageLine(ReadText(*file));
-                return;
-            }
-            const ProjectListing options = ListXmlProject(ReadText(*file), file->string());
-            project.codePage = options.codePage;
-            entries.Supplement(project.file.parent_path(), options.units);
+            const std::string text = ReadText(*file);
+            if (std::string_view(extension) == ".dof")
+                options.codePage = FindCodePageLine(text);
+            else
+                options = ListXmlProject(text, PathText(*file));
         } catch (const Error& error) {
             project.problems.emplace_back(error.what());
         }
-        return;
+        return options;
     }
+    return {};
 }
 
 // The units of a Delphi project file come from its main source; those of a C++Builder one from both.
-void AddMainSourceUnits(ProjectDescription& project, ProjectEntries& entries, ProjectListing listing) {
+void AddUnits(ProjectDescription& project, PathResolver& paths, ProjectListing listing) {
+    ProjectEntries entries(project, paths);
     const fs::path folder = project.file.parent_path();
     if (project.mainSource.empty()) {
         if (listing.units.empty() && project.problems.empty())
@@ -123,9 +132,9 @@ void AddMainSourceUnits(ProjectDescription& project, ProjectEntries& entries, Pr
         return;
     }
     const FormatOfExtension format = FormatOf(project.mainSource);
-    const bool isSource = format.format == Format::DelphiSource || format.format == Format::UseMacros;
+    const bool isSource = IsSource(format.format);
     ProjectListing source;
-    if (isSource) source = ReadListing(project.mainSource, format);
+    if (isSource) source = ReadListing(project.mainSource, format, project.codePage);
     const fs::path sourceFolder = project.mainSource.parent_path();
     if (project.IsCpp() || !isSource) {
         entries.Add(folder, std::move(listing.units));
@@ -173,20 +182,18 @@ ProjectDescription ReadProject(const fs::path& file, PathResolver& paths) {
     const FormatOfExtension format = FormatOf(file);
     ProjectDescription project;
     project.file = Absolute(file);
-    ProjectListing listing = ReadListing(project.file, format);
-    project.codePage = listing.codePage;
-    ProjectEntries entries(project, paths);
-    if (format.format == Format::DelphiSource || format.format == Format::UseMacros) {
+    ProjectListing listing;
+    if (IsSource(format.format)) {
         project.mainSource = project.file;
-        project.kind = KindOf(listing, project.file);
-        entries.Add(project.file.parent_path(), std::move(listing.units));
-        if (!format.isCpp) ReadOptionsFile(project, entries, paths);
-        return project;
+        if (!format.isCpp) listing = ReadOptionsFile(project, paths);
+    } else {
+        listing = ReadListing(project.file, format);
     }
+    project.codePage = listing.codePage;
     const bool isCpp = format.isCpp || LowerExtension(listing.mainSource) == ".cpp";
     project.kind = isCpp ? ProjectKind::CppBuilder : ProjectKind::DelphiProgram;
-    FindMainSource(project, listing.mainSource, paths);
-    AddMainSourceUnits(project, entries, std::move(listing));
+    if (project.mainSource.empty()) FindMainSource(project, listing.mainSource, paths);
+    AddUnits(project, paths, std::move(listing));
     return project;
 }
 

@@ -95,6 +95,17 @@ TEST(ProjectFiles, ADelphiProgramWithEverythingAUsesClauseMayHold) {
               "! App.dpr: unit 'lib\\Gone.pas' is missing\n");
 }
 
+TEST(ProjectFiles, FileNamesAreInTheCodePageOfTheOptions) {
+    const std::string dpr = "program P; uses A in '\xC3\xEB.pas';"; // windows-1251
+    EXPECT_EQ(Read({{"P.dpr", dpr}, {"P.dof", "CodePage=1251"}, {"Гл.pas", ""}}),
+              "program P.dpr 1251\nA Гл.pas\n");
+    EXPECT_EQ(Read({{"P.dpr", dpr}, {"Ãë.pas", ""}}), "program P.dpr\nA Ãë.pas\n");
+    EXPECT_EQ(Read({{"P.bpr", "[Version Info]\nCodePage=1251\n"},
+                    {"P.cpp", "USEUNIT(\"\xC3\xEB.cpp\");"},
+                    {"гл.cpp", ""}}),
+              "cpp P.cpp 1251\nГл гл.cpp\n");
+}
+
 TEST(ProjectFiles, APackageListsWhatItContains) {
     EXPECT_EQ(
         Read({{"Pack.dpk", "package Pack;\nrequires vcl, rtl;\ncontains\n A in 'A.pas',\n B in 'B';\nend."},
