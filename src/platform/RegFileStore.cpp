@@ -86,9 +86,10 @@ void RegFileStore::WriteString(std::string_view key, std::string_view name, std:
     CheckName(name);
     ChangeFile([&, full = FullKey(key)](Content& content) {
         content.AddKey(full);
-        if (content.text.Value(full, name) != value)
-            content.text.Put(full, name, RegEntry(name, value, content.lineEnd), std::string(value),
-                             content.lineEnd);
+        if (content.text.Value(full, name) == value)
+            return;
+        const std::string entry = RegEntry(content.text.Spelling(full, name), value, content.lineEnd);
+        content.text.Put(full, name, entry, std::string(value), content.lineEnd);
     });
 }
 

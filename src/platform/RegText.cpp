@@ -62,11 +62,9 @@ private:
         pos_ += word.size();
         return true;
     }
-    void RequireLineEnd() {
+    void RequireLineEnd(int line) {
         SkipBlanks();
-        // A quote that is not closed swallows the next lines up to theirs: the fault lies where the value
-        // begins.
-        if (!AtLineEnd() && Peek() != ';') FailAt(line_, "unexpected text behind the value");
+        if (!AtLineEnd() && Peek() != ';') FailAt(line, "unexpected text behind the value");
     }
 
     void ReadHead() {
@@ -107,7 +105,8 @@ private:
         if (!Take("=")) Fail("\"=\" expected");
         SkipBlanks();
         std::optional<std::string> value;
-        if (Peek() == '"')
+        const bool quoted = Peek() == '"';
+        if (quoted)
             value = ReadQuoted(true);
         else if (Take("dword:"))
             ReadDword();
@@ -115,7 +114,9 @@ private:
             value = ReadHex();
         else if (!Take("-"))
             Fail("this kind of value is unknown");
-        RequireLineEnd();
+        // A quote that is not closed swallows the next lines up to theirs: the fault lies where the value
+        // begins.
+        RequireLineEnd(quoted ? line_ : line_ + countedLines_);
         result_.AddEntry(name, TakeLine(), std::move(value));
     }
 

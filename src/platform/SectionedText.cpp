@@ -59,6 +59,11 @@ std::optional<std::string> SectionedText::Value(std::string_view section, std::s
     return entry ? entry->value : std::nullopt;
 }
 
+std::string SectionedText::Spelling(std::string_view section, std::string_view name) const {
+    const Entry* entry = Counting(section, name);
+    return entry ? entry->name : std::string(name);
+}
+
 std::string_view SectionedText::Raw(std::string_view section, std::string_view name) const {
     const Entry* entry = Counting(section, name);
     return entry ? std::string_view(entry->raw) : std::string_view();

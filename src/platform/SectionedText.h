@@ -32,7 +32,9 @@ public:
     bool HasEntry(std::string_view section, std::string_view name) const { return Counting(section, name); }
     // Nothing also for an entry whose value is none that can be told as text.
     std::optional<std::string> Value(std::string_view section, std::string_view name) const;
-    // Name and raw text of the entry, as found; empty when there is none.
+    // The name as the text spells it; the given one when there is no such entry.
+    std::string Spelling(std::string_view section, std::string_view name) const;
+    // The whole entry as found; empty when there is none.
     std::string_view Raw(std::string_view section, std::string_view name) const;
 
     // Behind the last section, parted from it by a blank line.
