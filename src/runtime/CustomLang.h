@@ -1,30 +1,18 @@
-// The localization components: texts by identifier and language, held in the form file as string-list properties.
+// The localization components: texts by identifier and language, held in the form file as string-list
+// properties.
 #pragma once
 #include "platform/StringList.h"
-#include "vcl/Component.h"
+#include "runtime/Languages.h"
+#include "runtime/Record.h"
+#include "runtime/StringsType.h"
 
 #include <array>
+#include <bitset>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace glotta {
-
-// The twelve string kinds, in the order in which all walks visit them.
-enum TStringsType {
-    stCaptions, stHints, stDisplayLabels, stStrings, stFonts, stMultiLines, stDlgsCaptions, stOtherStrings, stLocales,
-    stCharSets, stCollections, stListView_TreeView_Items
-};
-inline constexpr int StringsTypeCount = 12;
-// The enumeration member's name, "stCaptions"; the published property has the name without "st".
-std::string_view StringsTypeName(TStringsType kind);
-
-// Separates the fields of a record: identifier, then the text in each language.
-inline constexpr char ItemDelimiter = '\x01';
-
-// The index-th word (from 1) of `text`, words being parted by every single delimiter (empty words count).
-// Empty when there are fewer.
-std::string_view ExtractWord(int index, std::string_view text, char delimiter);
 
 // Class names of localization components that can be inserted, in this order.
 inline constexpr std::array<std::string_view, 3> NamesArray = {"TGlotta", "TGlottaRTSE", "TGlottaRT"};
@@ -37,20 +25,23 @@ class TgxCustomLang : public TComponent {
 public:
     using TComponent::TComponent;
 
-    int NumberOfLanguages() const;
+    int NumberOfLanguages() const { return languages_.count; }
     void SetNumberOfLanguages(int count); // records grow by empty texts and are cut on the right
-    const std::vector<std::string>& LangNames() const { return langNames_; }
+    const std::vector<std::string>& LangNames() const {
+        return languages_.names;
+    } // one at least for each language
     void SetLangNames(std::vector<std::string> names);
-    int ActiveLanguage() const; // 1-based position
-    std::string Language() const;
-    void SetLanguage(std::string name);
+    int ActiveLanguage() const { return languages_.active; } // 1-based position
+    const std::string& Language() const { return languages_.ActiveName(); }
+    void SetLanguage(const std::string& name); // throws Error when no language has this name
 
     // The records of one kind. The list is what the form file carries after the next save.
     const TStringList& Strings(TStringsType kind) const { return lists_[kind]; }
     void SetStrings(TStringsType kind, std::vector<std::string> records);
 
-    // Adds a record to "Strings": `text` is the text of the first language (of the others: empty). An identifier that
-    // is there already gets the text instead. Identifiers compare without regard to letter case.
+    // Adds a record to "Strings": `text` is the text of the first language (of the others: empty). An
+    // identifier that is there already gets the text instead. Identifiers compare without regard to letter
+    // case.
     void AddString(std::string_view id, std::string_view text);
     bool DeleteString(std::string_view id);
     // Index in "Strings", -1 when there is none.
@@ -60,29 +51,49 @@ public:
     // Identifier and first-language text of a record of "Strings".
     std::string GetIDByIndex(int index) const;
     std::string GetTextFromByIndex(int index, int language = 1) const;
-    // What the look-up methods give at run time: the text in the active language; for the OrDefault methods the
-    // first language's text where that is empty.
+    // What the look-up methods give at run time: the text in the active language; for the OrDefault methods
+    // the first language's text where that is empty.
     std::string GetText(std::string_view id) const;
     std::string GetTextOrDefault(std::string_view id) const;
 
-    // Collects the form's texts by kind, keeping every translation whose base text did not change.
+    // The three lists of what is kept out of translation.
+    void SetDoNotList(const std::vector<std::string>& items) {
+        TComponent::SetStrings("DoNotTranslate", items);
+    }
+    void SetExProps(const std::vector<std::string>& items) {
+        TComponent::SetStrings("ExcludedProperties", items);
+    }
+    void SetSmartProps(const std::vector<std::string>& items) {
+        TComponent::SetStrings("SmartExcludeProps", items);
+    }
+    // Whether records of properties that are no longer there are kept by UpdateTranslations.
+    bool IgnoreRemovals() const { return GetOrdProp("IgnoreRemovals") != 0; }
+    void SetIgnoreRemovals(bool ignore) { SetBoolProp("IgnoreRemovals", ignore); }
+
+    // Collects the form's texts by kind (all but "Strings"). A text that changed replaces the first
+    // language's; its translations, and all others, stay.
     void UpdateTranslations();
+    // Removes all records of all kinds.
     void ClearTranslations();
 
     void Loaded() override;
     void BeforeWrite() override;
 
-protected:
-    void Changed() { changed_ = true; }
-
 private:
-    void IndexIds() const;
+    struct Index { // of "Strings", built at the first look-up
+        std::unordered_map<std::string, int, TextHash, TextEqual> ids;
+        std::unordered_multimap<std::string, int> texts;
+    };
+    Index& StringsIndex() const;
+    void AddToIndex(int record) const;
+    void ForgetText(int record) const;
+    std::string TextIn(std::string_view id, int language) const;
+    void Changed(TStringsType kind) { changed_.set(static_cast<std::size_t>(kind)); }
+
     std::array<TStringList, StringsTypeCount> lists_;
-    std::vector<std::string> langNames_;
-    mutable std::unordered_map<std::string, int, TextHash, TextEqual> ids_; // of "Strings"
-    mutable std::unordered_map<std::string, int> texts_;
-    mutable bool indexed_ = false;
-    bool changed_ = false;
+    Languages languages_;
+    std::bitset<StringsTypeCount> changed_;
+    mutable std::optional<Index> index_;
 };
 
 class TGlotta : public TgxCustomLang {
@@ -110,12 +121,13 @@ public:
 class TGlottaDispatcher : public TComponent {
 public:
     using TComponent::TComponent;
-    int NumberOfLanguages() const;
+    int NumberOfLanguages() const { return Languages::Read(*this).count; }
     void SetNumberOfLanguages(int count);
-    std::vector<std::string> LangNames() const;
+    std::vector<std::string> LangNames() const { return Languages::Read(*this).names; }
     void SetLangNames(const std::vector<std::string>& names);
-    int ActiveLanguage() const;
-    void SetLanguage(const std::string& name);
+    int ActiveLanguage() const { return Languages::Read(*this).active; }
+    std::string Language() const { return Languages::Read(*this).ActiveName(); }
+    void SetLanguage(const std::string& name); // throws Error when no language has this name
 };
 
 // Makes the classes above known to form loading; call once at program start (repeating it is harmless).

@@ -1,5 +1,5 @@
-// What is known of component classes without their compiled code: ancestors and published properties with their type
-// kinds. The common VCL and CLX classes and the TGlotta classes are built in.
+// What is known of component classes without their compiled code: ancestors and published properties with
+// their type kinds. The common VCL and CLX classes and the TGlotta classes are built in.
 #pragma once
 #include <string>
 #include <string_view>
@@ -12,8 +12,24 @@ namespace glotta {
 
 // The type kinds of run-time type information, by its own names.
 enum class TTypeKind : unsigned char {
-    tkUnknown, tkInteger, tkChar, tkEnumeration, tkFloat, tkString, tkSet, tkClass, tkMethod, tkWChar, tkLString,
-    tkWString, tkVariant, tkArray, tkRecord, tkInterface, tkInt64, tkDynArray
+    tkUnknown,
+    tkInteger,
+    tkChar,
+    tkEnumeration,
+    tkFloat,
+    tkString,
+    tkSet,
+    tkClass,
+    tkMethod,
+    tkWChar,
+    tkLString,
+    tkWString,
+    tkVariant,
+    tkArray,
+    tkRecord,
+    tkInterface,
+    tkInt64,
+    tkDynArray
 };
 std::string_view TypeKindName(TTypeKind kind); // "tkLString"
 
@@ -25,9 +41,10 @@ struct PropertyInfo {
 
 struct ClassInfo {
     std::string name;
-    std::string parent; // empty for TPersistent
-    std::string unit;   // the unit that declares it ("StdCtrls")
+    std::string parent;                   // empty for TPersistent
+    std::string unit;                     // the unit that declares it ("StdCtrls")
     std::vector<PropertyInfo> properties; // those the class itself publishes
+    std::string itemClass;                // of a collection
 };
 
 class ClassCatalogue {
@@ -42,7 +59,8 @@ public:
     std::vector<const PropertyInfo*> PublishedProperties(std::string_view className) const;
     const PropertyInfo* FindProperty(std::string_view className, std::string_view property) const;
 
-    // The parameter list of an event type as Object Pascal writes it, "Sender: TObject" for TNotifyEvent, and for C++
+    // The parameter list of an event type as Object Pascal writes it, "Sender: TObject" for TNotifyEvent, and
+    // for C++
     // ("TObject *Sender"). Empty for an unknown type.
     static std::string_view PascalParameters(std::string_view eventType);
     static std::string_view CppParameters(std::string_view eventType);

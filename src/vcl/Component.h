@@ -1,4 +1,5 @@
-// Components of an open form: objects over the nodes of its form file, with owner, name and published properties.
+// Components of an open form: objects over the nodes of its form file, with owner, name and published
+// properties.
 #pragma once
 #include "vcl/ClassCatalogue.h"
 #include "vcl/FormFile.h"
@@ -14,7 +15,8 @@ class ComponentTree;
 
 class TComponent {
 public:
-    TComponent(ComponentTree& tree, FormNode& node, TComponent* owner) : tree_(tree), node_(node), owner_(owner) {}
+    TComponent(ComponentTree& tree, FormNode& node, TComponent* owner)
+        : tree_(tree), node_(node), owner_(owner) {}
     virtual ~TComponent() = default;
     TComponent(const TComponent&) = delete;
     TComponent& operator=(const TComponent&) = delete;
@@ -29,12 +31,13 @@ public:
     FormNode& Node() { return node_; }
     const FormNode& Node() const { return node_; }
 
-    // The components it owns, in creation order: for the root all components of the form, at any depth of parents
-    // (those of an inline frame belong to the frame).
+    // The components it owns, in creation order: for the root all components of the form, at any depth of
+    // parents (those of an inline frame belong to the frame).
     const std::vector<TComponent*>& Components() const { return owned_; }
     TComponent* FindComponent(std::string_view name) const; // ignores letter case
 
-    // Catalogue and form file joined; the kind of a property known from the file alone follows from its value.
+    // Catalogue and form file joined; the kind of a property known from the file alone follows from its
+    // value.
     std::vector<PropertyInfo> PublishedProperties() const;
     std::optional<PropertyInfo> FindProperty(std::string_view name) const;
 
@@ -56,6 +59,7 @@ public:
 
 private:
     friend class ComponentTree;
+    std::string_view CatalogueClass() const;
     ComponentTree& tree_;
     FormNode& node_;
     TComponent* owner_;
@@ -69,8 +73,8 @@ void RegisterComponentClass(std::string_view className, ComponentFactory factory
 // The component objects of one form. The form file must outlive the tree.
 class ComponentTree {
 public:
-    // `rootBase` is the class that the root's class descends from by its unit ("TForm", "TDataModule", "TFrame",
-    // or an ancestor form's class), empty when not known.
+    // `rootBase` is the class that the root's class descends from by its unit ("TForm", "TDataModule",
+    // "TFrame", or an ancestor form's class), empty when not known.
     ComponentTree(FormFile& file, std::string rootBase,
                   const ClassCatalogue& catalogue = ClassCatalogue::BuiltIn());
 
@@ -80,15 +84,17 @@ public:
     void SetRootBase(std::string rootBase) { rootBase_ = std::move(rootBase); }
     FormFile& File() { return file_; }
 
-    // Adds a child to the root's node, owned by the root; `name` must be free.
+    // Adds a child to the root's node, owned by the root. Throws Error when `name` is taken or no identifier.
     TComponent& Create(std::string className, std::string name);
-    // The name that the IDE gives: the class name without its leading T and the first free number from 1 ("Glotta1").
+    // The name that the IDE gives: the class name without its leading T and the first free number from 1
+    // ("Glotta1").
     std::string UniqueName(std::string_view className) const;
 
     void BeforeWrite(); // asks every component to bring its node up to date
 
 private:
     TComponent& Adopt(FormNode& node, TComponent* owner);
+    void PlaceNonVisual(FormNode& node);
     FormFile& file_;
     const ClassCatalogue& catalogue_;
     std::string rootBase_;

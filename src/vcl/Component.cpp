@@ -1,0 +1,249 @@
+#include "vcl/Component.h"
+
+#include "platform/Error.h"
+
+#include <unordered_set>
+
+namespace glotta {
+
+namespace {
+
+using Factories = std::unordered_map<std::string, ComponentFactory, TextHash, TextEqual>;
+Factories& RegisteredFactories() {
+    static Factories factories;
+    return factories;
+}
+
+constexpr std::string_view StringsSuffix = ".Strings";
+
+// What a value in the file says about a property that the catalogue does not know.
+PropertyInfo InfoFromFile(const FormProperty& property) {
+    const std::size_t dot = property.name.find('.');
+    PropertyInfo info{property.name.substr(0, dot), {}, TTypeKind::tkUnknown};
+    if (dot != std::string::npos) {
+        info.kind = TTypeKind::tkClass;
+        info.typeName =
+            SameText(std::string_view(property.name).substr(dot), StringsSuffix) ? "TStrings" : "TPersistent";
+        return info;
+    }
+    const auto set = [&](TTypeKind kind, std::string_view type) {
+        info.kind = kind;
+        info.typeName = type;
+    };
+    switch (property.value.kind) {
+    case FormValueKind::True:
+    case FormValueKind::False:
+        set(TTypeKind::tkEnumeration, "Boolean");
+        break;
+    case FormValueKind::Integer:
+        set(TTypeKind::tkInteger, "Integer");
+        break;
+    case FormValueKind::Float:
+        set(TTypeKind::tkFloat, "Double");
+        break;
+    case FormValueKind::Currency:
+        set(TTypeKind::tkFloat, "Currency");
+        break;
+    case FormValueKind::Date:
+        set(TTypeKind::tkFloat, "TDateTime");
+        break;
+    case FormValueKind::String:
+        set(TTypeKind::tkLString, "string");
+        break;
+    case FormValueKind::Set:
+        set(TTypeKind::tkSet, {});
+        break;
+    case FormValueKind::Collection:
+        set(TTypeKind::tkClass, "TCollection");
+        break;
+    case FormValueKind::Nil:
+        set(TTypeKind::tkClass, "TComponent");
+        break;
+    case FormValueKind::Identifier:
+        info.kind = StartsWithText(info.name, "On") ? TTypeKind::tkMethod : TTypeKind::tkEnumeration;
+        break;
+    default:
+        break;
+    }
+    return info;
+}
+
+void CheckName(std::string_view name) {
+    const bool valid = !name.empty() && !(name[0] >= '0' && name[0] <= '9') &&
+                       name.find_first_of(" .:;,()[]'\"\t\r\n") == std::string_view::npos;
+    if (!valid) throw Error("'" + std::string(name) + "' is not a valid component name");
+}
+
+} // namespace
+
+void RegisterComponentClass(std::string_view className, ComponentFactory factory) {
+    RegisteredFactories().insert_or_assign(std::string(className), factory);
+}
+
+// TComponent
+
+std::string_view TComponent::CatalogueClass() const {
+    const ClassCatalogue& catalogue = tree_.Catalogue();
+    if (owner_ || catalogue.Find(ClassName())) return ClassName();
+    // A root whose ancestor is another form publishes what forms do.
+    return catalogue.Find(tree_.RootBase()) ? std::string_view(tree_.RootBase()) : "TForm";
+}
+
+bool TComponent::InheritsFrom(std::string_view className) const {
+    if (tree_.Catalogue().InheritsFrom(ClassName(), className)) return true;
+    return !owner_ && tree_.Catalogue().InheritsFrom(tree_.RootBase(), className);
+}
+
+TComponent* TComponent::FindComponent(std::string_view name) const {
+    const auto found = std::find_if(owned_.begin(), owned_.end(),
+                                    [&](const TComponent* owned) { return SameText(owned->Name(), name); });
+    return found == owned_.end() ? nullptr : *found;
+}
+
+std::vector<PropertyInfo> TComponent::PublishedProperties() const {
+    std::vector<PropertyInfo> properties;
+    std::unordered_set<std::string, TextHash, TextEqual> names;
+    for (const PropertyInfo* info : tree_.Catalogue().PublishedProperties(CatalogueClass())) {
+        names.insert(info->name);
+        properties.push_back(*info);
+    }
+    for (const FormProperty& property : node_.properties)
+        if (PropertyInfo info = InfoFromFile(property); names.insert(info.name).second)
+            properties.push_back(std::move(info));
+    return properties;
+}
+
+std::optional<PropertyInfo> TComponent::FindProperty(std::string_view name) const {
+    if (const PropertyInfo* info = tree_.Catalogue().FindProperty(CatalogueClass(), name)) return *info;
+    for (const FormProperty& property : node_.properties)
+        if (PropertyInfo info = InfoFromFile(property); SameText(info.name, name)) return info;
+    return {};
+}
+
+std::string TComponent::GetStrProp(std::string_view name, std::string_view missing) const {
+    const FormProperty* property = node_.Find(name);
+    return property && property->value.kind == FormValueKind::String ? property->value.text
+                                                                     : std::string(missing);
+}
+
+void TComponent::SetStrProp(std::string_view name, std::string value) {
+    node_.Set(name, FormValue::String(std::move(value)));
+}
+
+std::int64_t TComponent::GetOrdProp(std::string_view name, std::int64_t missing) const {
+    const FormProperty* property = node_.Find(name);
+    if (!property) return missing;
+    switch (property->value.kind) {
+    case FormValueKind::True:
+        return 1;
+    case FormValueKind::False:
+        return 0;
+    case FormValueKind::Integer:
+        return property->value.integer;
+    default:
+        return missing;
+    }
+}
+
+void TComponent::SetOrdProp(std::string_view name, std::int64_t value) {
+    node_.Set(name, FormValue::Integer(value));
+}
+void TComponent::SetBoolProp(std::string_view name, bool value) {
+    node_.Set(name, FormValue::Bool(value));
+}
+
+std::vector<std::string> TComponent::GetStrings(std::string_view name) const {
+    const FormProperty* property = node_.Find(std::string(name) + std::string(StringsSuffix));
+    return property && property->value.IsStringList() ? property->value.Strings()
+                                                      : std::vector<std::string>();
+}
+
+void TComponent::SetStrings(std::string_view name, const std::vector<std::string>& lines) {
+    const std::string property = std::string(name) + std::string(StringsSuffix);
+    if (lines.empty())
+        node_.Remove(property);
+    else
+        node_.Set(property, FormValue::StringListOf(lines));
+}
+
+std::string TComponent::GetMethodProp(std::string_view event) const {
+    const FormProperty* property = node_.Find(event);
+    return property && property->value.kind == FormValueKind::Identifier ? property->value.text
+                                                                         : std::string();
+}
+
+void TComponent::SetMethodProp(std::string_view event, const std::string& method) {
+    if (method.empty())
+        node_.Remove(event);
+    else
+        node_.Set(event, FormValue::Identifier(method));
+}
+
+// ComponentTree
+
+ComponentTree::ComponentTree(FormFile& file, std::string rootBase, const ClassCatalogue& catalogue)
+    : file_(file), catalogue_(catalogue), rootBase_(std::move(rootBase)) {
+    root_ = &Adopt(file.Root(), nullptr);
+    for (const auto& component : all_)
+        component->Loaded();
+}
+
+TComponent& ComponentTree::Adopt(FormNode& node, TComponent* owner) {
+    const Factories& factories = RegisteredFactories();
+    const auto factory = factories.find(node.className);
+    all_.push_back(factory == factories.end() ? std::make_unique<TComponent>(*this, node, owner)
+                                              : factory->second(*this, node, owner));
+    TComponent& component = *all_.back();
+    if (owner) owner->owned_.push_back(&component);
+    // The root owns everything but the parts of inline frames.
+    TComponent* childOwner = !owner || node.kind == FormNodeKind::Inline ? &component : owner;
+    for (const auto& child : node.children)
+        Adopt(*child, childOwner);
+    return component;
+}
+
+TComponent& ComponentTree::Create(std::string className, std::string name) {
+    CheckName(name);
+    if (root_->FindComponent(name) || SameText(root_->Name(), name))
+        throw Error("A component named " + name + " already exists");
+    const bool visual = catalogue_.InheritsFrom(className, "TControl");
+    FormNode& node = root_->Node().AddChild(std::move(name), std::move(className));
+    if (!visual) PlaceNonVisual(node);
+    TComponent& component = Adopt(node, root_);
+    component.Loaded();
+    return component;
+}
+
+// A component that is not seen at run time lies on the form as an icon; it gets a place where none lies yet.
+void ComponentTree::PlaceNonVisual(FormNode& node) {
+    constexpr std::int64_t first = 8, step = 32;
+    std::unordered_set<std::int64_t> taken;
+    for (const auto& sibling : root_->Node().children) {
+        const FormProperty* left = sibling->Find("Left");
+        const FormProperty* top = sibling->Find("Top");
+        if (left && top && top->value.integer == first) taken.insert(left->value.integer);
+    }
+    std::int64_t place = first;
+    while (taken.contains(place))
+        place += step;
+    node.Set("Left", FormValue::Integer(place));
+    node.Set("Top", FormValue::Integer(first));
+}
+
+std::string ComponentTree::UniqueName(std::string_view className) const {
+    std::unordered_set<std::string, TextHash, TextEqual> taken;
+    taken.insert(root_->Name());
+    for (const TComponent* component : root_->Components())
+        taken.insert(component->Name());
+    const bool typed = className.size() > 1 && (className[0] == 'T' || className[0] == 't');
+    const std::string stem(className.substr(typed ? 1 : 0));
+    for (int number = 1;; ++number)
+        if (std::string name = stem + std::to_string(number); !taken.contains(name)) return name;
+}
+
+void ComponentTree::BeforeWrite() {
+    for (const auto& component : all_)
+        component->BeforeWrite();
+}
+
+} // namespace glotta
