@@ -82,7 +82,7 @@ TextEdit InsertInclude(const UnitTokens& tokens, const Directives& directives, c
     for (std::size_t i = 0; i < directives.Count() && directives.Begin(i) < code; ++i)
         if (directives.Word(i) == "include" && tokens.Depth(directives.Begin(i)) == outer) last = i;
     if (last == None && outer == 1) last = 1;
-    if (last != None) return {directives.End(last), directives.End(last), "\r\n" + line};
+    if (last != None) return tokens.LineBehind(directives.End(last), line);
     const std::size_t first = std::min(code, directives.Count() > 0 ? directives.Begin(0) : code);
     const std::size_t place = tokens.LineStart(first);
     return {place, place, line + "\r\n"};
@@ -101,10 +101,10 @@ TextEdits Declare(const UnitTokens& tokens, const Class& type, const std::vector
     const std::string line = MemberIndent(tokens, type, members) + declaration;
     const unsigned depth = tokens.Depth(tokens.Begin(type.close));
     if (published == None) {
-        const bool members_first = !members.empty() && members.front().first == type.open + 1;
+        const bool membersFirst = !members.empty() && members.front().first == type.open + 1;
         const std::string label = tokens.Indent(tokens.Begin(type.name)) + "__published:\r\n";
         return {
-            tokens.LineBehind(tokens.End(type.open), label + line + (members_first ? "\r\nprivate:" : ""))};
+            tokens.LineBehind(tokens.End(type.open), label + line + (membersFirst ? "\r\nprivate:" : ""))};
     }
     const std::size_t behind = tokens.End(last ? last->last : published);
     return {tokens.LineBehind(tokens.LeaveConditionals(behind, depth), line)};

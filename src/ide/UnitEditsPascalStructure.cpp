@@ -175,7 +175,7 @@ void UnitStructure::OpenClass(std::size_t index) {
 void UnitStructure::OpenRoutine(std::size_t& index) {
     const bool isType = index > 0 && (tokens_.IsSymbol(index - 1, "=") || tokens_.IsSymbol(index - 1, ":") ||
                                       tokens_.Is(index - 1, "to") || tokens_.Is(index - 1, "type"));
-    if (isType || (implementation_ == None && interface_ != None)) return;
+    if (isType || !tokens_.IsWord(index + 1) || (implementation_ == None && interface_ != None)) return;
     const std::size_t semicolon = Semicolon(index, tokens_.Count());
     bool bodiless = false;
     const std::size_t behind = BehindDirectives(semicolon + 1, &bodiless);
@@ -295,6 +295,20 @@ const UnitStructure::Routine* UnitStructure::FindRoutine(std::string_view classN
             SameText(tokens_[routine.head + 3], name) && !tokens_.IsSymbol(routine.head + 4, "."))
             return &routine;
     return nullptr;
+}
+
+std::vector<ByteRange> UnitStructure::MethodsOf(std::string_view className) const {
+    std::vector<ByteRange> methods;
+    for (const Routine& routine : routines_) {
+        const bool ofClass = SameText(tokens_[routine.head + 1], className) && tokens_.IsSymbol(routine.head + 2, ".") &&
+                             !tokens_.IsSymbol(routine.head + 4, ".");
+        if (!ofClass || routine.end >= tokens_.Count() || (routine.head > 0 && tokens_.Is(routine.head - 1, "class")))
+            continue;
+        methods.push_back({static_cast<std::uint32_t>(tokens_.Begin(routine.head)),
+                           static_cast<std::uint32_t>(tokens_.End(routine.end))});
+    }
+    std::sort(methods.begin(), methods.end(), [](ByteRange a, ByteRange b) { return a.begin < b.begin; });
+    return methods;
 }
 
 std::vector<std::string> UnitStructure::ParameterNames(const Routine& routine) const {

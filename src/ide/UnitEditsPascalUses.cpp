@@ -160,8 +160,8 @@ TextEdit AppendItem(const UnitTokens& tokens, const Clause& clause, const Item& 
     const std::size_t place = BehindItem(tokens, clause, last);
     const std::size_t column =
         CharCount(tokens.Text().substr(tokens.LineStart(place), place - tokens.LineStart(place)));
-    const bool oneToALine = clause.items.size() > 1 && tokens.FirstOnLine(last.begin) &&
-                            tokens.FirstOnLine(clause.items[clause.items.size() - 2].begin);
+    const bool oneToALine = &last != &clause.items.front() && tokens.FirstOnLine(last.begin) &&
+                            tokens.FirstOnLine((&last - 1)->begin);
     if (!oneToALine && column + unit.size() + 3 <= LineLimit) return {place, place, ", " + std::string(unit)};
     const std::string indent = tokens.FirstOnLine(last.begin) ? tokens.Indent(last.begin) : "  ";
     return {place, place, ",\r\n" + indent + std::string(unit)};
