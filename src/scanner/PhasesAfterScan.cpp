@@ -1,6 +1,7 @@
 #include "scanner/PhasesAfterScan.h"
 
 #include "scanner/ReplacementText.h"
+#include "scanner/TextIndex.h"
 
 namespace glotta {
 namespace {
@@ -15,18 +16,23 @@ void GiveID(TgxFoundSourceString& row, const std::string& id, const ReplacementC
 
 void VerifyFound(TgxFoundSourceStrings& found, const std::vector<ComponentString>& strings,
                  const ReplacementContext& context) {
-    std::unordered_map<std::string_view, const std::string*> ids;
+    TextIndex texts(strings.size());
+    std::vector<const std::string*> ids(strings.size());
     for (const ComponentString& string : strings)
-        ids[string.text] = &string.id;
+        ids[texts.Add(string.text)] = &string.id;
     for (std::size_t i = 0; i < found.Count(); ++i)
-        if (const auto known = ids.find(found[i].Value); known != ids.end())
-            GiveID(found[i], *known->second, context);
+        if (const std::size_t known = texts.IndexOf(found[i].Value); known != TextIndex::npos)
+            GiveID(found[i], *ids[known], context);
 }
 
 void ShareDuplicates(TgxFoundSourceStrings& found, const ReplacementContext& context) {
-    std::unordered_map<std::string_view, const std::string*> ids;
-    for (std::size_t i = 0; i < found.Count(); ++i)
-        GiveID(found[i], *ids.try_emplace(found[i].SourceText, &found[i].ID).first->second, context);
+    TextIndex texts(found.Count());
+    std::vector<const std::string*> ids(found.Count());
+    for (std::size_t i = 0; i < found.Count(); ++i) {
+        const std::string*& first = ids[texts.Add(found[i].SourceText)];
+        if (!first) first = &found[i].ID;
+        GiveID(found[i], *first, context);
+    }
 }
 
 } // namespace glotta

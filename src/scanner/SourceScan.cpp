@@ -3,7 +3,7 @@
 #include "ide/SourceTokens.h"
 #include "runtime/CustomLang.h"
 #include "scanner/CallPlaces.h"
-#include "scanner/CommentTest.h"
+#include "scanner/CommentPlaces.h"
 #include "scanner/ConstDeclarations.h"
 #include "scanner/ContinuedLiteral.h"
 #include "scanner/LineWalk.h"
@@ -44,7 +44,7 @@ private:
     const SourceFlavour& flavour_;
     const LiteralReader reader_;
     CharPlaces places_;
-    CommentTest comments_;
+    CommentPlaces comments_;
     StringIdentifiers ids_;
     ContinuedLiteral continued_;
     std::size_t consumed_ = 0; // a constant's expression may end in a later line

@@ -3,10 +3,10 @@
 #include "platform/Text.h"
 #include "settings/SettingsValues.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace glotta {
@@ -20,9 +20,12 @@ public:
 
 private:
     const SettingsValues& settings_;
-    std::unordered_set<std::string, TextHash, TextEqual> inUse_;
-    std::unordered_map<std::string, int, TextHash, TextEqual> suffixes_; // of constants, last one given
-    int counter_ = -1;
+    const std::vector<std::string>& inUse_;
+    std::vector<std::uint64_t> numbers_; // of the identifiers in use that begin with HCPrefix, ascending
+    std::size_t nextNumber_ = 0;
+    std::uint64_t counter_ = 0;
+    // Identifiers in use, and the last suffix given to each; filled by the first constant.
+    std::unordered_map<std::string, int, TextHash, TextEqual> names_;
 };
 
 } // namespace glotta

@@ -28,9 +28,9 @@ private:
     std::size_t byte_ = 0, chars_ = 0;
 };
 
-class CommentTest {
+class CommentPlaces {
 public:
-    CommentTest(std::string_view text, bool isCpp, const HelperLibrary& helper, CharPlaces& places)
+    CommentPlaces(std::string_view text, bool isCpp, const HelperLibrary& helper, CharPlaces& places)
         : text_(text), isCpp_(isCpp), helper_(helper), places_(places) {}
 
     // Whether the byte lies inside a comment; false when there is no test.
