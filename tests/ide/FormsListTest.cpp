@@ -36,7 +36,7 @@ TEST(FormsList, EveryFormOfTheProjectWithItsFirstLocalizationComponent) {
         text += item.formName + " " + item.unitName + " " + item.fileName + " " + item.languages + " [" +
                 item.glotta + "] " + std::to_string(item.imageIndex) + "\n";
     EXPECT_EQ(text, "Plain UPlain Plain.pas 0 [] 0\n"
-                    "Two UTwo Two.pas 0 [TGLOTTART] 1\n"
+                    "Two UTwo Two.pas 1 [TGLOTTART] 1\n"
                     "One UOne One.pas 2 [TGlotta] 1\n"
                     "Framed UFramed Framed.pas 0 [] 0\n"
                     "Broken UBroken Broken.pas 0 [] 0\n");
