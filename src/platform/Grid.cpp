@@ -88,7 +88,7 @@ void TGrid::Click(std::size_t row, bool ctrl, bool shift) {
             selected_.assign(RowCount(), false);
             selectedCount_ = 0;
         }
-        const auto [from, to] = std::minmax(std::size_t(anchor), row);
+        const std::size_t from = std::min(std::size_t(anchor), row), to = std::max(std::size_t(anchor), row);
         for (std::size_t i = from; i <= to; ++i)
             Mark(i, true);
     } else {

@@ -2,12 +2,12 @@
 #include "platform/RegistryStore.h"
 #include "platform/StringList.h"
 #include "scanner/_scan.h"
+#include "settings/ExpertSettings.h"
 
 namespace glotta {
 
 namespace {
 
-const std::string BaseKey = "\\Software\\Quorlane\\TGlotta";
 const std::string Section = "FoundStrings";
 
 std::string WidthsText(const std::vector<int>& widths) {
@@ -33,7 +33,7 @@ std::vector<int> WidthsOf(const std::string& text) {
 } // namespace
 
 void TfrmFound::LoadState() {
-    const TRegIniFile ini(context_.registry, BaseKey);
+    const TRegIniFile ini(context_.registry, std::string(BaseRegistryKey));
     GridCols.Set(WidthsOf(ini.ReadString(Section, "GridCols", {})));
     pnNotice.Show(ini.ReadBool(Section, "NoticeVisible", true));
     PreviewHeight.Set(ini.ReadInteger(Section, "PreviewHeight", 0));
@@ -41,7 +41,7 @@ void TfrmFound::LoadState() {
 }
 
 void TfrmFound::SaveState() {
-    TRegIniFile ini(context_.registry, BaseKey);
+    TRegIniFile ini(context_.registry, std::string(BaseRegistryKey));
     if (!GridCols().empty())
         ini.WriteString(Section, "GridCols", WidthsText(GridCols()));
     ini.WriteBool(Section, "NoticeVisible", pnNotice.Visible());
