@@ -71,46 +71,35 @@ struct Hook {
     std::string event; // without "On"
 };
 
-bool HasAncestorForm(IDesigner& designer) {
-    return designer.Root().Node().kind == FormNodeKind::Inherited;
-}
-
-// Makes the method's body begin with `call`, unless it is there. The event called the former handler so far,
-// and an ancestor form's handler; both must go on doing their work.
-void BeginWith(const Hook& hook, const std::string& method, const std::string& callee, bool inherited) {
+// Makes the method begin with a call of the former handler, unless it is there: the event called that one so
+// far, and what it does must go on being done.
+void CallFormer(const Hook& hook, const std::string& method, const std::string& former) {
     IOTASourceEditor* editor = hook.ide.GetSourceEditorFromFormName(hook.formName);
     if (!editor) return;
     const bool isCpp = IsCppUnit(editor->FileName());
-    if (inherited && isCpp) return; // the name of the ancestor's handler is not known here
+    if (isCpp ? former == method : SameText(former, method)) return;
     const std::string text = hook.ide.GetUnitSource(editor->FileName());
     const std::string& className = hook.designer.Root().ClassName();
     const std::optional<MethodBody> body = FindMethodBody(text, isCpp, className, method);
-    if (!body || Mentions(text, *body, callee, isCpp)) return;
-    std::string call = callee;
-    if (!inherited) {
-        if (!isCpp && SameText(callee, method)) return;
-        const std::optional<MethodBody> former = FindMethodBody(text, isCpp, className, callee);
-        // A former handler that calls the new one already would call itself without end.
-        const bool reachable =
-            former ? !Mentions(text, *former, method, isCpp) : HasAncestorForm(hook.designer);
-        if (!reachable) return;
-        const std::string arguments =
-            body->parameters.empty()
-                ? ArgumentList(ClassCatalogue::PascalParameters(EventType(hook.instance, "On" + hook.event)))
-                : Join(body->parameters);
-        call += "(" + arguments + ")";
-    }
-    WriteEdits(*editor, text, {UnitTokens(text, isCpp).LineBehind(body->open, "  " + call + ";")});
+    if (!body || Mentions(text, *body, former, isCpp)) return;
+    const std::optional<MethodBody> formerBody = FindMethodBody(text, isCpp, className, former);
+    // A former handler that calls the new one already would call itself without end; one that an ancestor
+    // form has is called like its own.
+    const bool inherited = hook.designer.Root().Node().kind == FormNodeKind::Inherited;
+    if (formerBody ? Mentions(text, *formerBody, method, isCpp) : !inherited) return;
+    const std::string arguments =
+        body->parameters.empty()
+            ? ArgumentList(ClassCatalogue::PascalParameters(EventType(hook.instance, "On" + hook.event)))
+            : Join(body->parameters);
+    const std::string call = "  " + former + "(" + arguments + ");";
+    WriteEdits(*editor, text, {UnitTokens(text, isCpp).LineBehind(body->open, call)});
 }
 
 // Creates the handler and hooks the event to it.
 void HookMethod(const Hook& hook, const std::string& methodName) {
     const std::string former = hook.instance.GetMethodProp("On" + hook.event);
     const std::string method = DoCreateMethod(hook.designer, hook.instance, hook.event, methodName);
-    if (!former.empty() && former != method)
-        BeginWith(hook, method, former, false);
-    else if (former.empty() && !hook.instance.Owner() && HasAncestorForm(hook.designer))
-        BeginWith(hook, method, "inherited", true);
+    if (!former.empty()) CallFormer(hook, method, former);
 }
 
 void Finish(IDesigner& designer, const std::string& method, bool show) {

@@ -11,6 +11,8 @@ namespace glotta {
 std::string DoCreateMethod(IDesigner& designer, TComponent& instance, const std::string& eventName,
                            const std::string& methodName);
 
+// An event that has another handler already is hooked to the new one, which then calls the former.
+
 // OnCreate of the form (methodName) or of the data module ("DatamoduleCreate").
 void InsertFormEvent(IdeServices& ide, const std::string& formName, const std::string& methodName, bool show);
 // OnChangeLanguage of the form's first localization component: component name + suffix.
