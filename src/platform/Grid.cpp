@@ -10,15 +10,12 @@ namespace glotta {
 
 void TGrid::Changed(Change change) {
     Tell(change);
-    if (OnChange)
-        OnChange();
+    if (OnChange) OnChange();
 }
 
 void TGrid::Mark(std::size_t row, bool on) {
-    if (selected_.size() < RowCount())
-        selected_.resize(RowCount());
-    if (row >= selected_.size() || selected_[row] == on)
-        return;
+    if (selected_.size() < RowCount()) selected_.resize(RowCount());
+    if (row >= selected_.size() || selected_[row] == on) return;
     selected_[row] = on;
     if (on)
         ++selectedCount_;
@@ -36,15 +33,13 @@ std::vector<std::size_t> TGrid::SelectedRows() const {
     std::vector<std::size_t> rows;
     rows.reserve(selectedCount_);
     for (std::size_t row = 0; row < selected_.size(); ++row)
-        if (selected_[row])
-            rows.push_back(row);
+        if (selected_[row]) rows.push_back(row);
     return rows;
 }
 
 std::vector<std::size_t> TGrid::TargetRows() const {
     std::vector<std::size_t> rows = SelectedRows();
-    if (rows.empty() && row_ >= 0)
-        rows.push_back(std::size_t(row_));
+    if (rows.empty() && row_ >= 0) rows.push_back(std::size_t(row_));
     return rows;
 }
 
@@ -56,8 +51,7 @@ void TGrid::Select(std::size_t row, bool on) {
 void TGrid::SelectOnly(int row) {
     selected_.assign(RowCount(), false);
     selectedCount_ = 0;
-    if (row >= 0)
-        Mark(std::size_t(row), true);
+    if (row >= 0) Mark(std::size_t(row), true);
     Tell(Change::Selection);
     SetRow(row);
 }
@@ -76,12 +70,10 @@ void TGrid::ClearSelection() {
 }
 
 void TGrid::Click(std::size_t row, bool ctrl, bool shift) {
-    if (row >= RowCount())
-        return;
+    if (row >= RowCount()) return;
     if (picking_ == Picking::Single || (picking_ == Picking::Extended && !ctrl && !shift))
         return SelectOnly(int(row));
-    if (!ctrl && !shift)
-        return SetRow(int(row));
+    if (!ctrl && !shift) return SetRow(int(row));
     const int anchor = anchor_ < 0 ? int(row) : anchor_;
     if (shift) {
         if (picking_ == Picking::Extended && !ctrl) {
@@ -96,16 +88,14 @@ void TGrid::Click(std::size_t row, bool ctrl, bool shift) {
     }
     Tell(Change::Selection);
     SetRow(int(row));
-    if (shift)
-        anchor_ = anchor; // the next Shift+Click starts at the same place
+    if (shift) anchor_ = anchor; // the next Shift+Click starts at the same place
 }
 
 void TGrid::RowsChanged(const std::vector<int>& newIndex) {
     const std::vector<bool> before = std::exchange(selected_, std::vector<bool>(RowCount()));
     selectedCount_ = 0;
     for (std::size_t i = 0; i < before.size() && i < newIndex.size(); ++i)
-        if (before[i] && newIndex[i] >= 0)
-            Mark(std::size_t(newIndex[i]), true);
+        if (before[i] && newIndex[i] >= 0) Mark(std::size_t(newIndex[i]), true);
     if (row_ >= 0) {
         std::size_t from = std::size_t(row_);
         while (from < newIndex.size() && newIndex[from] < 0)
@@ -144,8 +134,7 @@ void TListBox::DeleteSelected() {
     std::vector<std::string> kept;
     std::vector<int> newIndex(items_.size(), -1);
     for (std::size_t row = 0; row < items_.size(); ++row) {
-        if (IsSelected(row))
-            continue;
+        if (IsSelected(row)) continue;
         newIndex[row] = int(kept.size());
         kept.push_back(std::move(items_[row]));
     }
@@ -162,7 +151,8 @@ void TListBox::Swap(std::size_t a, std::size_t b) {
 }
 
 bool TListBox::Contains(std::string_view item) const {
-    return std::any_of(items_.begin(), items_.end(), [&](const std::string& has) { return SameText(has, item); });
+    return std::any_of(items_.begin(), items_.end(),
+                       [&](const std::string& has) { return SameText(has, item); });
 }
 
 } // namespace glotta

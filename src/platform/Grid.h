@@ -1,5 +1,5 @@
-// What a list or grid is made of, without a toolkit: rows, headers, cells, the current row and the picked rows.
-// A cell's text is asked for only when it is drawn; nothing here is formatted ahead of that.
+// What a list or grid is made of, without a toolkit: rows, headers, cells, the current row and the picked
+// rows. A cell's text is asked for only when it is drawn; nothing here is formatted ahead of that.
 #pragma once
 #include <cstddef>
 #include <functional>
@@ -31,7 +31,9 @@ public:
     virtual std::string CellText(std::size_t row, std::size_t column) const = 0;
     virtual bool CanEdit(std::size_t /*row*/, std::size_t /*column*/) const { return false; }
     // The person typed a new text into a cell. False: refused, the cell keeps its text.
-    virtual bool Enter(std::size_t /*row*/, std::size_t /*column*/, const std::string& /*text*/) { return false; }
+    virtual bool Enter(std::size_t /*row*/, std::size_t /*column*/, const std::string& /*text*/) {
+        return false;
+    }
     virtual bool CanSort() const { return false; }
     virtual void Sort(std::size_t /*column*/, bool /*descending*/) {}
     virtual RowLook Look(std::size_t /*row*/) const { return RowLook::Plain; }
@@ -58,16 +60,16 @@ public:
 
 protected:
     void CellsChanged() { Tell(Change::Cells); }
-    // Rows were removed, added or put in another order: newIndex[i] is where the former row i is now, -1 when it is
-    // gone. Selection and current row follow; a current row that is gone gives way to the one behind it.
+    // Rows were removed, added or put in another order: newIndex[i] is where the former row i is now, -1 when
+    // it is gone. Selection and current row follow; a current row that is gone gives way to the one behind
+    // it.
     void RowsChanged(const std::vector<int>& newIndex);
     // Wholly new rows: nothing stays selected or current.
     void RowsReplaced();
 
 private:
     void Tell(Change change) {
-        if (OnView)
-            OnView(change);
+        if (OnView) OnView(change);
     }
     void Changed(Change change);
     void Mark(std::size_t row, bool on);
@@ -94,7 +96,7 @@ public:
     void Add(std::string item);
     void Put(std::size_t row, std::string item);
     void DeleteSelected();
-    void Swap(std::size_t a, std::size_t b); // selection follows
+    void Swap(std::size_t a, std::size_t b);    // selection follows
     bool Contains(std::string_view item) const; // ignores letter case
 
 private:

@@ -9,18 +9,22 @@
 namespace glotta {
 
 std::string FoundGrid::Header(std::size_t column) const {
-    static constexpr std::array<const char*, 4> captions = {"Line #", "String ID:", "String constant:",
-                                                            "Will be replaced by:"};
+    static constexpr std::array<const char*, 4> captions = {
+        "Line #", "String ID:", "String constant:", "Will be replaced by:"};
     return captions[column];
 }
 
 std::string FoundGrid::CellText(std::size_t row, std::size_t column) const {
     const TgxFoundSourceString& found = *rows_[row];
     switch (column) {
-    case LineNo: return std::to_string(found.Line + 1);
-    case StringID: return found.ID;
-    case StringConstant: return found.SourceText;
-    default: return found.Replacement;
+    case LineNo:
+        return std::to_string(found.Line + 1);
+    case StringID:
+        return found.ID;
+    case StringConstant:
+        return found.SourceText;
+    default:
+        return found.Replacement;
     }
 }
 
@@ -36,8 +40,7 @@ bool FoundGrid::Enter(std::size_t row, std::size_t column, const std::string& te
 }
 
 RowLook FoundGrid::Look(std::size_t row) const {
-    if (rows_[row]->Ignored)
-        return RowLook::Marked;
+    if (rows_[row]->Ignored) return RowLook::Marked;
     return rows_[row]->Note.empty() ? RowLook::Plain : RowLook::Noted;
 }
 
@@ -56,8 +59,7 @@ void FoundGrid::Sort(std::size_t column, bool descending) {
     std::sort(order.begin(), order.end(), [&](int first, int second) {
         const auto a = std::size_t(descending ? second : first), b = std::size_t(descending ? first : second);
         if (!keys.empty())
-            if (const int byKey = keys[a].compare(keys[b]); byKey != 0)
-                return byKey < 0;
+            if (const int byKey = keys[a].compare(keys[b]); byKey != 0) return byKey < 0;
         return rows_[a]->Position < rows_[b]->Position;
     });
     std::vector<TgxFoundSourceString*> sorted(rows_.size());
@@ -86,8 +88,7 @@ std::vector<TgxFoundSourceString*> FoundGrid::Take(const std::function<bool(std:
             kept.push_back(rows_[row]);
         }
     }
-    if (taken.empty())
-        return taken;
+    if (taken.empty()) return taken;
     rows_ = std::move(kept);
     RowsChanged(newIndex);
     return taken;

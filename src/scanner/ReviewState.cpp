@@ -42,11 +42,9 @@ void TfrmFound::LoadState() {
 
 void TfrmFound::SaveState() {
     TRegIniFile ini(context_.registry, std::string(BaseRegistryKey));
-    if (!GridCols().empty())
-        ini.WriteString(Section, "GridCols", WidthsText(GridCols()));
+    if (!GridCols().empty()) ini.WriteString(Section, "GridCols", WidthsText(GridCols()));
     ini.WriteBool(Section, "NoticeVisible", pnNotice.Visible());
-    if (PreviewHeight() > 0)
-        ini.WriteInteger(Section, "PreviewHeight", PreviewHeight());
+    if (PreviewHeight() > 0) ini.WriteInteger(Section, "PreviewHeight", PreviewHeight());
     ini.WriteString(Section, "ExcludeRowsTypedStr", excludeRowsTypedStr_);
 }
 

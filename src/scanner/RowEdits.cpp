@@ -16,8 +16,7 @@ std::string Quoted(std::string_view id, const SourceFlavour& flavour) {
 // The text between the first two delimiters; empty when there are none.
 std::string_view FirstArgument(std::string_view replacement, const SourceFlavour& flavour) {
     const auto open = replacement.find(flavour.STRDELIM);
-    if (open == std::string_view::npos)
-        return {};
+    if (open == std::string_view::npos) return {};
     const auto begin = open + flavour.STRDELIM.size();
     const auto close = replacement.find(flavour.STRDELIM, begin);
     return close == std::string_view::npos ? std::string_view() : replacement.substr(begin, close - begin);
@@ -47,15 +46,15 @@ void IDsInUse::Add(const FoundRows& rows) {
 
 bool IDsInUse::Clashes(std::string_view id, const std::string& value) const {
     const auto [begin, end] = texts_.equal_range(std::string(id));
-    if (std::any_of(begin, end, [&](const auto& entry) { return *entry.second != value; }))
-        return true;
+    if (std::any_of(begin, end, [&](const auto& entry) { return *entry.second != value; })) return true;
     const int index = component_ ? component_->GetIDIndex(id) : -1;
     return index >= 0 && component_->GetTextFromByIndex(index) != value;
 }
 
 void RenumberRows(const FoundRows& rows, const IDsInUse& others, std::string_view prefix, long long start,
                   const SourceFlavour& flavour) {
-    std::map<std::pair<std::string, std::string>, std::string> given; // former identifier and text to the new one
+    std::map<std::pair<std::string, std::string>, std::string>
+        given; // former identifier and text to the new one
     long long number = start;
     for (TgxFoundSourceString* row : rows) {
         auto [entry, isNew] = given.try_emplace({UpperCase(row->ID), row->Value});
@@ -69,9 +68,10 @@ void RenumberRows(const FoundRows& rows, const IDsInUse& others, std::string_vie
 }
 
 std::string TypecastToPChar(const std::string& replacement) {
-    if (replacement.starts_with("PChar("))
-        return replacement;
-    const std::string_view tail = replacement.ends_with(';') ? ";" : replacement.ends_with(" + ") ? " + " : "";
+    if (replacement.starts_with("PChar(")) return replacement;
+    const std::string_view tail = replacement.ends_with(';')     ? ";"
+                                  : replacement.ends_with(" + ") ? " + "
+                                                                 : "";
     const std::string call = replacement.substr(0, replacement.size() - tail.size());
     return ("PChar(" + call + ")").append(tail);
 }

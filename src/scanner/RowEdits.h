@@ -19,8 +19,8 @@ void SetNewStrIDOnRow(TgxFoundSourceString& row, const std::string& id, const So
 // Fit to stand between delimiters: not empty, no delimiter, no control character.
 bool IsUsableStringID(std::string_view id, const SourceFlavour& flavour);
 
-// Which texts the identifiers stand for: in the rows, and in the component (nil: none). Two different texts under one
-// identifier would lose one of them.
+// Which texts the identifiers stand for: in the rows, and in the component (nil: none). Two different texts
+// under one identifier would lose one of them.
 class IDsInUse {
 public:
     explicit IDsInUse(const TgxCustomLang* component) : component_(component) {}
@@ -33,8 +33,8 @@ private:
     std::unordered_multimap<std::string, const std::string*, TextHash, TextEqual> texts_;
 };
 
-// Numbers the rows prefix + start, prefix + start + 1 ..., stepping over identifiers that stand for another text.
-// Rows that shared an identifier for the same text go on sharing one.
+// Numbers the rows prefix + start, prefix + start + 1 ..., stepping over identifiers that stand for another
+// text. Rows that shared an identifier for the same text go on sharing one.
 void RenumberRows(const FoundRows& rows, const IDsInUse& others, std::string_view prefix, long long start,
                   const SourceFlavour& flavour);
 

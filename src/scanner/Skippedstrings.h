@@ -19,11 +19,13 @@ public:
     static constexpr const char* PlacementKey = "\\Software\\Quorlane\\TGlotta\\SkippedStrings";
 
     // Lists what the vector held when the window was made. `source` is the text that was scanned.
-    TfrmSkippedStrings(IdeServices& ide, int previewLines, std::vector<TgxSkippedString> skipped, std::string source);
+    TfrmSkippedStrings(IdeServices& ide, int previewLines, std::vector<TgxSkippedString> skipped,
+                       std::string source);
 
     class SkippedList : public TGrid {
     public:
-        explicit SkippedList(const std::vector<TgxSkippedString>& skipped) : TGrid(Picking::Single), skipped_(skipped) {}
+        explicit SkippedList(const std::vector<TgxSkippedString>& skipped)
+            : TGrid(Picking::Single), skipped_(skipped) {}
         std::size_t RowCount() const override { return skipped_.size(); }
         std::size_t ColumnCount() const override { return 1; }
         std::string Header(std::size_t) const override { return "Strings:"; }

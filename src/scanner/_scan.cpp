@@ -25,8 +25,7 @@ TfrmFound::TfrmFound(ReviewContext context) : context_(std::move(context)), ui_(
     LoadState();
     for (FoundGrid* grid : {&sgStrings, &sgDeleted})
         grid->OnChange = [this, grid] {
-            if (grid == &VisibleGrid())
-                Changed();
+            if (grid == &VisibleGrid()) Changed();
         };
     sgStrings.OnEnter = [this](std::size_t row, FoundGrid::Column column, const std::string& text) {
         return EnterCell(row, column, text);
@@ -36,13 +35,11 @@ TfrmFound::TfrmFound(ReviewContext context) : context_(std::move(context)), ui_(
         (context_.found[i].Deleted ? deleted : found).push_back(&context_.found[i]);
     sgDeleted.Add(deleted);
     sgStrings.Add(found);
-    if (!found.empty())
-        sgStrings.SetRow(0);
+    if (!found.empty()) sgStrings.SetRow(0);
 }
 
 TfrmFound::~TfrmFound() {
-    if (skippedForm_ && skippedForm_->OnClose)
-        skippedForm_->OnClose(); // its window may still be open
+    if (skippedForm_ && skippedForm_->OnClose) skippedForm_->OnClose(); // its window may still be open
 }
 
 // --- what the commands have in common ---
@@ -79,8 +76,7 @@ void TfrmFound::MoveToDeleted(const std::function<bool(std::size_t row)>& gone) 
 
 void TfrmFound::Changed() {
     ShowPreview();
-    if (OnView)
-        OnView();
+    if (OnView) OnView();
 }
 
 void TfrmFound::ShowPreview() {
@@ -92,30 +88,29 @@ void TfrmFound::ShowPreview() {
     }
     PreviewColumn = row->Column;
     PreviewLength = int(CharCount(row->SourceText));
-    edPreview.Set(GetCurrentSourcePreview(context_.ide, context_.settings.Values().PreviewLines, row->Position,
-                                          row->Line + 1, PreviewLine, context_.source));
+    edPreview.Set(GetCurrentSourcePreview(context_.ide, context_.settings.Values().PreviewLines,
+                                          row->Position, row->Line + 1, PreviewLine, context_.source));
     lblNote.Set(row->Note);
 }
 
 std::array<std::string, 3> TfrmFound::StatusTexts() const {
     return {"Found strings: " + std::to_string(sgStrings.RowCount()),
             "Deleted strings: " + std::to_string(sgDeleted.RowCount()),
-            "Selected rows: " + std::to_string(showsDeleted_ ? sgDeleted.SelectedCount() : sgStrings.SelectedCount())};
+            "Selected rows: " +
+                std::to_string(showsDeleted_ ? sgDeleted.SelectedCount() : sgStrings.SelectedCount())};
 }
 
 // --- typed cells ---
 
 bool TfrmFound::EnterCell(std::size_t row, FoundGrid::Column column, const std::string& text) {
     TgxFoundSourceString& found = sgStrings.At(row);
-    if (column == FoundGrid::StringID)
-        return EnterID(found, text);
+    if (column == FoundGrid::StringID) return EnterID(found, text);
     found.Replacement = text;
     return true;
 }
 
 bool TfrmFound::EnterID(TgxFoundSourceString& row, const std::string& id) {
-    if (id == row.ID)
-        return true;
+    if (id == row.ID) return true;
     if (!IsUsableStringID(id, context_.flavour)) {
         ui_.MessageDlg("String ID shall not be empty and shall not contain quotes or control characters!",
                        MsgType::Error);
@@ -136,10 +131,10 @@ bool TfrmFound::EnterID(TgxFoundSourceString& row, const std::string& id) {
 
 void TfrmFound::DeleteRow() {
     const auto rows = sgStrings.TargetRows();
-    const std::string question =
-        rows.size() == 1 ? "Delete selected row (" + sgStrings.At(rows.front()).ID + ")?" : "Delete selected rows?";
-    if (!Ask(question))
-        return;
+    const std::string question = rows.size() == 1
+                                     ? "Delete selected row (" + sgStrings.At(rows.front()).ID + ")?"
+                                     : "Delete selected rows?";
+    if (!Ask(question)) return;
     const std::unordered_set<std::size_t> gone(rows.begin(), rows.end());
     MoveToDeleted([&](std::size_t row) { return gone.contains(row); });
 }
@@ -147,8 +142,7 @@ void TfrmFound::DeleteRow() {
 void TfrmFound::StartID() {
     const std::string& prefix = context_.settings.Values().HCPrefix;
     const auto answer = ui_.InputBox(InputCaption, "Input start ID (" + prefix + "):", {});
-    if (!answer)
-        return;
+    if (!answer) return;
     const std::string_view text = Trim(*answer);
     int start = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), start);
@@ -174,28 +168,26 @@ void TfrmFound::Exclude() {
     std::vector<std::string> phrases;
     std::unordered_set<std::string_view> texts;
     for (const TgxFoundSourceString* row : targets)
-        if (texts.insert(row->Value).second)
-            phrases.push_back(row->Value);
+        if (texts.insert(row->Value).second) phrases.push_back(row->Value);
     const std::string question =
         targets.size() == 1
             ? "Exclude all \"" + phrases.front() + "\" and add it to Skip Words for future skipping?"
             : "This will exclude phrases:\r\n" + JoinLines(phrases) +
                   "\r\nand add them to \"Skip Words\" option for future skipping! Continue?";
-    if (!Ask(question))
-        return;
+    if (!Ask(question)) return;
     TStringList words = context_.settings.Values().SkipWords;
     bool leftOut = false;
     for (const std::string& phrase : phrases) {
         // The option keeps one phrase per line: a text of several lines would come back as other phrases.
         const bool hasLineBreak = phrase.find_first_of("\r\n") != std::string::npos;
         leftOut = leftOut || hasLineBreak;
-        if (!hasLineBreak && words.IndexOf(phrase) < 0)
-            words.Add(phrase);
+        if (!hasLineBreak && words.IndexOf(phrase) < 0) words.Add(phrase);
     }
     context_.settings.SetSkipWords(words);
     if (leftOut)
-        ui_.MessageDlg("Texts of several lines are not added to \"Skip Words\". They are excluded from this scan only.",
-                       MsgType::Information);
+        ui_.MessageDlg(
+            "Texts of several lines are not added to \"Skip Words\". They are excluded from this scan only.",
+            MsgType::Information);
     const FoundRows gone =
         sgStrings.Take([&](std::size_t row) { return texts.contains(sgStrings.At(row).Value); });
     for (TgxFoundSourceString* row : gone)
@@ -224,8 +216,7 @@ void TfrmFound::RestoreDeletedRow() {
 }
 
 void TfrmFound::ViewSkipped() {
-    if (skippedForm_)
-        return ui_.BringToFront(*skippedForm_);
+    if (skippedForm_) return ui_.BringToFront(*skippedForm_);
     skippedForm_ = std::make_unique<TfrmSkippedStrings>(context_.ide, context_.settings.Values().PreviewLines,
                                                         context_.skipped, context_.source);
     ui_.Show(*skippedForm_);
@@ -234,12 +225,12 @@ void TfrmFound::ViewSkipped() {
 void TfrmFound::DeleteRowsContains() {
     const auto answer = ui_.InputBox(
         InputCaption, "Type string which is included in rows which should be deleted:", excludeRowsTypedStr_);
-    if (!answer || answer->empty())
-        return;
+    if (!answer || answer->empty()) return;
     excludeRowsTypedStr_ = *answer;
     MoveToDeleted([&](std::size_t row) {
         const TgxFoundSourceString& found = sgStrings.At(row);
-        return found.Value.find(*answer) != std::string::npos || found.SourceText.find(*answer) != std::string::npos;
+        return found.Value.find(*answer) != std::string::npos ||
+               found.SourceText.find(*answer) != std::string::npos;
     });
 }
 
@@ -255,10 +246,10 @@ void TfrmFound::UseMethod(std::string_view method) {
 
 bool TfrmFound::CloseQuery(Ui&, ModalResult result) {
     if (result == ModalResult::OK) {
-        if (sgStrings.SelectedCount() > 0 && !Ask("There are some row(s) selected. Continue?", MsgType::Warning))
+        if (sgStrings.SelectedCount() > 0 &&
+            !Ask("There are some row(s) selected. Continue?", MsgType::Warning))
             return false;
-        if (!Ask("This will apply changes and modify source code. Continue?", MsgType::Warning))
-            return false;
+        if (!Ask("This will apply changes and modify source code. Continue?", MsgType::Warning)) return false;
     } else if (!Ask("This will close the Found Strings form! Continue?")) {
         return false;
     }

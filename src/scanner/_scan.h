@@ -24,15 +24,15 @@ struct ReviewContext {
     RegistryStore& registry;
     TgxFoundSourceStrings& found;
     const std::vector<TgxSkippedString>& skipped;
-    const std::string& source;      // the whole unit as it was scanned
+    const std::string& source; // the whole unit as it was scanned
     const SourceFlavour& flavour;
     std::string unitName;
-    std::string component;          // as replacements name it
+    std::string component;                 // as replacements name it
     const TgxCustomLang* glotta = nullptr; // the component that receives the strings
 };
 
-// Shown modally; OK means that the source is to be modified. Rows that are not to be touched come out with Deleted,
-// those to be ignored with Ignored.
+// Shown modally; OK means that the source is to be modified. Rows that are not to be touched come out with
+// Deleted, those to be ignored with Ignored.
 class TfrmFound : public TForm {
 public:
     explicit TfrmFound(ReviewContext context);
@@ -41,8 +41,9 @@ public:
     FoundGrid sgStrings{true}, sgDeleted{false};
 
     TAction acModifySource, acCancel, acHelp;
-    TAction acDeleteRow, acStartID, acExclude, acMarktoIgnore, acRemoveIgnoreMark, acSwitchDeleted, acRestoreDeletedRow,
-        acViewSkipped, acSelectRow, acInvertSelection, acRemoveSelection, acDeleteRowsContains, acTypecastPChar;
+    TAction acDeleteRow, acStartID, acExclude, acMarktoIgnore, acRemoveIgnoreMark, acSwitchDeleted,
+        acRestoreDeletedRow, acViewSkipped, acSelectRow, acInvertSelection, acRemoveSelection,
+        acDeleteRowsContains, acTypecastPChar;
     std::array<TAction, TextGetterNames.size()> acUseMethod; // below "Use method:"
 
     // The source around the current row, with the place of its literal in it.

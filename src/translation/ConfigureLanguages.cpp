@@ -13,15 +13,18 @@ const std::string InputPrompt = "Enter new language name:";
 
 } // namespace
 
-std::string DefaultLanguageName(int number) { return "Language N" + std::to_string(number); }
+std::string DefaultLanguageName(int number) {
+    return "Language N" + std::to_string(number);
+}
 
-std::string NextLanguageName(const std::vector<std::string>& names, const std::vector<std::string>& defaultNames) {
+std::string NextLanguageName(const std::vector<std::string>& names,
+                             const std::vector<std::string>& defaultNames) {
     const std::size_t n = names.size();
     const auto isTaken = [&](const std::string& name) {
-        return std::any_of(names.begin(), names.end(), [&](const std::string& has) { return SameText(has, name); });
+        return std::any_of(names.begin(), names.end(),
+                           [&](const std::string& has) { return SameText(has, name); });
     };
-    if (n < defaultNames.size() && !isTaken(defaultNames[n]))
-        return defaultNames[n];
+    if (n < defaultNames.size() && !isTaken(defaultNames[n])) return defaultNames[n];
     return DefaultLanguageName(int(n) + 1);
 }
 
@@ -54,8 +57,7 @@ int TfrmConfigureLanguages::Count() const {
 }
 
 void TfrmConfigureLanguages::Step(int tag) {
-    if (const int count = Count() + tag; count >= 1)
-        SetCount(count);
+    if (const int count = Count() + tag; count >= 1) SetCount(count);
 }
 
 void TfrmConfigureLanguages::SetCount(int count) {
@@ -68,14 +70,12 @@ void TfrmConfigureLanguages::edLangCountChange() {
     const int count = Count();
     while (int(lbLangNames.RowCount()) < count)
         lbLangNames.Add(NextLanguageName(lbLangNames.Items(), defaultNames_));
-    if (OnView)
-        OnView();
+    if (OnView) OnView();
 }
 
 void TfrmConfigureLanguages::MoveUp() {
     const auto selected = lbLangNames.SelectedRows();
-    if (!selected.empty() && selected.front() > 0)
-        lbLangNames.Swap(selected.front(), selected.front() - 1);
+    if (!selected.empty() && selected.front() > 0) lbLangNames.Swap(selected.front(), selected.front() - 1);
 }
 
 void TfrmConfigureLanguages::MoveDown() {
@@ -86,24 +86,20 @@ void TfrmConfigureLanguages::MoveDown() {
 
 void TfrmConfigureLanguages::Rename() {
     const auto selected = lbLangNames.SelectedRows();
-    if (selected.empty())
-        return;
+    if (selected.empty()) return;
     const auto name = ui_.InputBox(InputCaption, InputPrompt, lbLangNames.Items()[selected.front()]);
-    if (name && !name->empty())
-        lbLangNames.Put(selected.front(), *name);
+    if (name && !name->empty()) lbLangNames.Put(selected.front(), *name);
 }
 
 void TfrmConfigureLanguages::Add() {
     const auto name = ui_.InputBox(InputCaption, InputPrompt, {});
-    if (!name || name->empty())
-        return;
+    if (!name || name->empty()) return;
     lbLangNames.Add(*name);
     SetCount(int(lbLangNames.RowCount()));
 }
 
 void TfrmConfigureLanguages::Delete() {
-    if (lbLangNames.SelectedCount() == 0)
-        return;
+    if (lbLangNames.SelectedCount() == 0) return;
     if (ui_.MessageDlg("Delete selected language name(s)?", MsgType::Confirmation,
                        {ModalResult::Yes, ModalResult::No}) == ModalResult::Yes)
         lbLangNames.DeleteSelected();
@@ -112,8 +108,7 @@ void TfrmConfigureLanguages::Delete() {
 ModalResult ConfigureLanguages(Ui& ui, std::vector<std::string>& names, const std::string& defaultLangNames) {
     TfrmConfigureLanguages form(ui, names, SplitLines(defaultLangNames));
     const ModalResult result = ui.ShowModal(form);
-    if (result == ModalResult::OK)
-        names = form.lbLangNames.Items();
+    if (result == ModalResult::OK) names = form.lbLangNames.Items();
     return result;
 }
 

@@ -11,16 +11,18 @@ namespace glotta {
 
 // "Language N3"
 std::string DefaultLanguageName(int number);
-// The name for the language behind the first `names.size()`: the default name at that place unless it is in the list
-// already, else "Language N%d".
-std::string NextLanguageName(const std::vector<std::string>& names, const std::vector<std::string>& defaultNames);
+// The name for the language behind the first `names.size()`: the default name at that place unless it is in
+// the list already, else "Language N%d".
+std::string NextLanguageName(const std::vector<std::string>& names,
+                             const std::vector<std::string>& defaultNames);
 
 class TfrmConfigureLanguages : public TForm {
 public:
     // Larger numbers count as no number: the list would grow without end.
     static constexpr int MaxLanguages = 1000;
 
-    TfrmConfigureLanguages(Ui& ui, const std::vector<std::string>& names, std::vector<std::string> defaultNames);
+    TfrmConfigureLanguages(Ui& ui, const std::vector<std::string>& names,
+                           std::vector<std::string> defaultNames);
 
     TField<std::string> edLangCount;
     TAction sbUp2, sbDown2;

@@ -11,8 +11,7 @@ namespace {
 template <class Component>
 void ApplyLanguages(Component& component, int numLang, std::vector<std::string> names) {
     if (!names.empty()) {
-        if (numLang >= 0 && names.size() > std::size_t(numLang))
-            names.resize(std::size_t(numLang));
+        if (numLang >= 0 && names.size() > std::size_t(numLang)) names.resize(std::size_t(numLang));
         component.SetLangNames(names);
     }
     component.SetNumberOfLanguages(numLang);
@@ -24,32 +23,27 @@ void ApplyLanguages(Component& component, int numLang, std::vector<std::string> 
 } // namespace
 
 void FormTranslation::Refresh() {
-    if (UpdateStatusBar)
-        UpdateStatusBar();
+    if (UpdateStatusBar) UpdateStatusBar();
 }
 
 std::vector<TgxCustomLang*> FormTranslation::LangComponents(const std::string& formName) {
     std::vector<TgxCustomLang*> found;
     if (TComponent* root = ide_.GetOwnerByName(formName))
         for (TComponent* component : root->Components())
-            if (auto* glotta = dynamic_cast<TgxCustomLang*>(component))
-                found.push_back(glotta);
+            if (auto* glotta = dynamic_cast<TgxCustomLang*>(component)) found.push_back(glotta);
     return found;
 }
 
 TgxCustomLang* FormTranslation::GetGlotta(const std::string& formName) {
     const FormsListItem* item = ide_.Forms().FindText(formName);
-    if (formName.empty() || !item || !ide_.OpenFile(item->fileName, false))
-        return nullptr;
+    if (formName.empty() || !item || !ide_.OpenFile(item->fileName, false)) return nullptr;
     const auto found = LangComponents(item->formName);
     return found.empty() ? nullptr : found.front();
 }
 
 void FormTranslation::InsertTGlotta(FormsListItem& item) {
-    if (item.languages != "0")
-        return Refresh();
-    if (!ide_.OpenFile(item.fileName, true))
-        throw EGlottaSilent();
+    if (item.languages != "0") return Refresh();
+    if (!ide_.OpenFile(item.fileName, true)) throw EGlottaSilent();
     if (TgxCustomLang* glotta = GetGlotta(item.formName)) {
         item.languages = std::to_string(glotta->NumberOfLanguages());
         item.imageIndex = 1;
@@ -58,29 +52,28 @@ void FormTranslation::InsertTGlotta(FormsListItem& item) {
         item.glotta = settings_.DefaultComp;
         item.imageIndex = 1;
         // The new component alone: forms selected behind this one keep the languages they have.
-        ConfigureLangComponent(settings_.NumLang, item, SplitLines(settings_.DefaultLangNames), {}, "TgxCustomLang",
-                               false);
+        ConfigureLangComponent(settings_.NumLang, item, SplitLines(settings_.DefaultLangNames), {},
+                               "TgxCustomLang", false);
     }
     Refresh();
 }
 
-TComponent* FormTranslation::InsertComponentOnForm(const std::string& formName, const std::string& componentClass) {
+TComponent* FormTranslation::InsertComponentOnForm(const std::string& formName,
+                                                   const std::string& componentClass) {
     const FormsListItem* item = ide_.Forms().FindExact(formName);
-    if (!item || !ide_.OpenFile(item->fileName, false))
-        throw EGlottaSilent();
-    if (!ide_.TestForCorrectForm(formName))
-        return nullptr;
+    if (!item || !ide_.OpenFile(item->fileName, false)) throw EGlottaSilent();
+    if (!ide_.TestForCorrectForm(formName)) return nullptr;
     IOTAFormEditor* editor = IdeServices::GetFormEditorFromModule(ide_.GetModuleFromFileName(item->fileName));
-    if (!editor)
-        return nullptr;
+    if (!editor) return nullptr;
     try {
         return &editor->CreateComponent(componentClass);
     } catch (const Error& error) {
-        ide_.GetUi().MessageDlg(
-            "Unable to insert " + componentClass + " component! Error message:\r\n" + error.what() +
-                "\r\nPlease make sure the active project is a VCL application. If you have installed both CLX and VCL "
-                "version please repeat your last action once again.",
-            MsgType::Error, {ModalResult::OK}, "TGlotta Expert (VCL Edition)");
+        ide_.GetUi().MessageDlg("Unable to insert " + componentClass + " component! Error message:\r\n" +
+                                    error.what() +
+                                    "\r\nPlease make sure the active project is a VCL application. If you "
+                                    "have installed both CLX and VCL "
+                                    "version please repeat your last action once again.",
+                                MsgType::Error, {ModalResult::OK}, "TGlotta Expert (VCL Edition)");
         return nullptr;
     }
 }
@@ -89,8 +82,7 @@ void FormTranslation::SetUpLang(int numLang, FormsListItem& first, const std::ve
                                 std::string_view componentClass, bool insertIfNone) {
     auto& items = ide_.Forms().items;
     for (FormsListItem* item = &first; item != items.data() + items.size(); ++item) {
-        if (item != &first && !item->selected)
-            continue;
+        if (item != &first && !item->selected) continue;
         ConfigureLangComponent(numLang, *item, langNames, {}, componentClass, insertIfNone);
         item->selected = item->focused = false;
     }
@@ -100,31 +92,24 @@ void FormTranslation::ConfigureLangComponent(int numLang, FormsListItem& item,
                                              const std::vector<std::string>& langNames,
                                              std::string_view componentName, std::string_view componentClass,
                                              bool insertIfNone) {
-    if (item.languages == "0" && insertIfNone)
-        InsertTGlotta(item);
+    if (item.languages == "0" && insertIfNone) InsertTGlotta(item);
     const bool wasOpen = ide_.IsFileOpen(item.fileName);
-    if (!wasOpen && !ide_.OpenFile(item.fileName, false))
-        throw EGlottaSilent();
+    if (!wasOpen && !ide_.OpenFile(item.fileName, false)) throw EGlottaSilent();
     const bool changed = ide_.TestForCorrectForm(item.formName) &&
                          ApplyToForm(numLang, item, langNames, componentName, componentClass);
-    if (changed)
-        ide_.MarkModifiedForm(item.fileName);
+    if (changed) ide_.MarkModifiedForm(item.fileName);
     // What could not be saved stays open, so that nothing is lost.
-    if (!wasOpen && (!changed || ide_.SaveFile(item.fileName)))
-        ide_.CloseFile(item.fileName);
+    if (!wasOpen && (!changed || ide_.SaveFile(item.fileName))) ide_.CloseFile(item.fileName);
 }
 
 bool FormTranslation::ApplyToForm(int numLang, FormsListItem& item, const std::vector<std::string>& langNames,
                                   std::string_view componentName, std::string_view componentClass) {
     TComponent* root = ide_.GetOwnerByName(item.formName);
-    if (!root)
-        return false;
+    if (!root) return false;
     bool changed = false;
     for (TComponent* component : root->Components()) {
-        if (!component->InheritsFrom(componentClass))
-            continue;
-        if (!componentName.empty() && !SameText(component->Name(), componentName))
-            continue;
+        if (!component->InheritsFrom(componentClass)) continue;
+        if (!componentName.empty() && !SameText(component->Name(), componentName)) continue;
         if (auto* dispatcher = dynamic_cast<TGlottaDispatcher*>(component)) {
             ApplyLanguages(*dispatcher, numLang, langNames);
             changed = true;
@@ -139,21 +124,16 @@ bool FormTranslation::ApplyToForm(int numLang, FormsListItem& item, const std::v
 }
 
 void FormTranslation::sbCaptionsClick() {
-    if (!TransEditorDlg)
-        return;
+    if (!TransEditorDlg) return;
     for (FormsListItem* item : ide_.Forms().Selected())
         TranslateForm(*item);
 }
 
 void FormTranslation::TranslateForm(FormsListItem& item) {
-    if (!ide_.OpenFile(item.fileName, false))
-        throw EGlottaSilent();
+    if (!ide_.OpenFile(item.fileName, false)) throw EGlottaSilent();
     InsertTGlotta(item);
-    if (!ide_.TestForCorrectForm(item.formName))
-        return;
+    if (!ide_.TestForCorrectForm(item.formName)) return;
     const auto components = LangComponents(item.formName);
-    if (components.empty())
-        return;
     if (components.size() > 1) {
         ide_.GetUi().MessageDlg("Only one TgxCustomLang", MsgType::Plain);
         return;
@@ -162,9 +142,9 @@ void FormTranslation::TranslateForm(FormsListItem& item) {
         ide_.GetUi().MessageDlg("Nil designer", MsgType::Plain);
         return;
     }
+    if (components.empty()) return;
     IOTAFormEditor* editor = IdeServices::GetFormEditorFromModule(ide_.GetModuleFromFileName(item.fileName));
-    if (TransEditorDlg(*components.front()) && editor)
-        editor->MarkModified();
+    if (TransEditorDlg(*components.front()) && editor) editor->MarkModified();
 }
 
 } // namespace glotta

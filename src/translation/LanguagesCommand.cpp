@@ -8,27 +8,25 @@ namespace glotta {
 
 namespace {
 
-// The dispatcher's form and name as the component's property writes them: "Data1.GlottaDispatcher1", or the name
-// alone when it stands on the same form. An empty name: not linked.
+// The dispatcher's form and name as the component's property writes them: "Data1.GlottaDispatcher1", or the
+// name alone when it stands on the same form. An empty name: not linked.
 struct DispatcherLink {
     std::string form, name;
 };
 
 DispatcherLink LinkOf(const TgxCustomLang& glotta, const std::string& formName) {
     const FormProperty* property = glotta.Node().Find("LangDispatcher");
-    if (!property || property->value.kind != FormValueKind::Identifier)
-        return {};
+    if (!property || property->value.kind != FormValueKind::Identifier) return {};
     const std::string& path = property->value.text;
     const auto dot = path.find('.');
-    if (dot == std::string::npos)
-        return {formName, path};
+    if (dot == std::string::npos) return {formName, path};
     return {path.substr(0, dot), path.substr(dot + 1)};
 }
 
-// One name per language: those without one get the default.
-std::vector<std::string> Completed(std::vector<std::string> names, int count,
-                                   const std::vector<std::string>& defaults) {
-    while (int(names.size()) < count)
+std::vector<std::string> DefaultLanguages(const SettingsValues& settings) {
+    const auto defaults = SplitLines(settings.DefaultLangNames);
+    std::vector<std::string> names;
+    while (int(names.size()) < std::min(settings.NumLang, TfrmConfigureLanguages::MaxLanguages))
         names.push_back(NextLanguageName(names, defaults));
     return names;
 }
@@ -37,8 +35,7 @@ std::vector<std::string> Completed(std::vector<std::string> names, int count,
 template <class Read> auto WithFileAsItWas(IdeServices& ide, const std::string& fileName, Read read) {
     const bool wasOpen = ide.IsFileOpen(fileName);
     auto result = read();
-    if (!wasOpen && ide.IsFileOpen(fileName))
-        ide.CloseFile(fileName);
+    if (!wasOpen && ide.IsFileOpen(fileName)) ide.CloseFile(fileName);
     return result;
 }
 
@@ -53,40 +50,41 @@ struct FormTranslation::FormLanguages {
 FormTranslation::FormLanguages FormTranslation::LanguagesOf(const FormsListItem& item) {
     return WithFileAsItWas(ide_, item.fileName, [&]() -> FormLanguages {
         if (const TgxCustomLang* glotta = GetGlotta(item.formName))
-            return {Completed(glotta->LangNames(), glotta->NumberOfLanguages(), {}), LinkOf(*glotta, item.formName)};
-        return {Completed({}, settings_.NumLang, SplitLines(settings_.DefaultLangNames)), {}};
+            return {glotta->LangNames(), LinkOf(*glotta, item.formName)};
+        return {DefaultLanguages(settings_), {}};
     });
 }
 
-std::vector<std::string> FormTranslation::LanguagesOfDispatcher(const FormsListItem& item, const std::string& name) {
-    return WithFileAsItWas(ide_, item.fileName, [&] {
-        const auto* dispatcher = dynamic_cast<TGlottaDispatcher*>(ide_.GetComponentOnForm(item.formName, name));
-        if (!dispatcher)
-            throw Error(item.formName + "." + name + " is not a dispatcher");
-        return Completed(dispatcher->LangNames(), dispatcher->NumberOfLanguages(), {});
+std::vector<std::string> FormTranslation::LanguagesOfDispatcher(const FormsListItem& item,
+                                                                const std::string& name) {
+    using Names = std::optional<std::vector<std::string>>;
+    const Names names = WithFileAsItWas(ide_, item.fileName, [&]() -> Names {
+        const auto* dispatcher =
+            dynamic_cast<TGlottaDispatcher*>(ide_.GetComponentOnForm(item.formName, name));
+        return dispatcher ? Names(dispatcher->LangNames()) : Names();
     });
+    if (!names) throw Error(item.formName + "." + name + " is not a dispatcher");
+    return *names;
 }
 
 void FormTranslation::sbLanguagesClick() {
     const auto selected = ide_.Forms().Selected();
-    if (selected.empty())
-        return;
+    if (selected.empty()) return;
     FormsListItem& item = *selected.front();
     Ui& ui = ide_.GetUi();
     try {
         auto [names, link] = LanguagesOf(item);
         FormsListItem* dispatcherForm = nullptr;
         if (!link.name.empty() &&
-            ui.MessageDlg("Selected component is linked to a dispatcher! Do you wish to edit languages of the "
-                          "dispatcher component?",
-                          MsgType::Confirmation, {ModalResult::Yes, ModalResult::No}) == ModalResult::Yes) {
+            ui.MessageDlg(
+                "Selected component is linked to a dispatcher! Do you wish to edit languages of the "
+                "dispatcher component?",
+                MsgType::Confirmation, {ModalResult::Yes, ModalResult::No}) == ModalResult::Yes) {
             dispatcherForm = ide_.Forms().FindText(link.form);
-            if (!dispatcherForm)
-                throw Error("the dispatcher's form " + link.form + " is not in the project");
+            if (!dispatcherForm) throw Error("the dispatcher's form " + link.form + " is not in the project");
             names = LanguagesOfDispatcher(*dispatcherForm, link.name);
         }
-        if (ConfigureLanguages(ui, names, settings_.DefaultLangNames) != ModalResult::OK)
-            return;
+        if (ConfigureLanguages(ui, names, settings_.DefaultLangNames) != ModalResult::OK) return;
         const int count = int(names.size());
         if (dispatcherForm)
             ConfigureLangComponent(count, *dispatcherForm, names, link.name, "TGlottaDispatcher", false);

@@ -1,5 +1,5 @@
-// The unit selection dialog: a unit of the project and, where the command needs one, a form with a localization
-// component. The caller fills the lists and reads the choice after OK.
+// The unit selection dialog: a unit of the project and, where the command needs one, a form with a
+// localization component. The caller fills the lists and reads the choice after OK.
 #pragma once
 #include "platform/Form.h"
 #include "platform/Grid.h"

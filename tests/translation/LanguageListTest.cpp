@@ -8,7 +8,7 @@ namespace {
 using Use = std::function<void(TfrmConfigureLanguages&)>;
 
 struct Edited {
-    std::string names;  // afterwards, joined by commas
+    std::string names; // afterwards, joined by commas
     std::string transcript;
 };
 
@@ -47,11 +47,12 @@ TEST(LanguageList, TheNumberGrowsTheListAndNeverCutsIt) {
                     }),
               "a,German,French");
     for (const char* noNumber : {"", "0", "-3", "2x", "99999999999999", "1001"})
-        EXPECT_EQ(Names({"a"}, {}, [&](auto& form) {
-                      form.edLangCount.Enter(noNumber);
-                      EXPECT_FALSE(form.btOK.Enabled()) << noNumber;
-                      form.edLangCount.Enter("1");
-                  }),
+        EXPECT_EQ(Names({"a"}, {},
+                        [&](auto& form) {
+                            form.edLangCount.Enter(noNumber);
+                            EXPECT_FALSE(form.btOK.Enabled()) << noNumber;
+                            form.edLangCount.Enter("1");
+                        }),
                   "a");
 }
 
@@ -98,9 +99,9 @@ TEST(LanguageList, NamesAreAddedRenamedAndDeletedByQuestions) {
     EXPECT_EQ(ConfigureLanguages(ui, names, {}), ModalResult::OK);
     EXPECT_EQ(JoinLines(names, ","), "a,d");
     const std::string ask = "Input TGlotta Expert configure languages|" + prompt + "|";
-    EXPECT_EQ(ui.Transcript(), ask + " -> d\n" + ask + " -> \n" + ask + " -> Cancel\n" + ask + "b -> B\n" + ask +
-                                   "B -> \nConfirmation: " + question + " -> No\nConfirmation: " + question +
-                                   " -> Yes\nModal Configure Languages -> None\n");
+    EXPECT_EQ(ui.Transcript(), ask + " -> d\n" + ask + " -> \n" + ask + " -> Cancel\n" + ask + "b -> B\n" +
+                                   ask + "B -> \nConfirmation: " + question + " -> No\nConfirmation: " +
+                                   question + " -> Yes\nModal Configure Languages -> None\n");
 
     ui.Modal<TfrmConfigureLanguages>([](auto& form) {
         form.edLangCount.Enter("5");

@@ -1,12 +1,13 @@
-#include "support/ScriptedUi.h"
 #include "translation/TranslUnits.h"
+#include "support/ScriptedUi.h"
 
 namespace glotta {
 namespace {
 
 // "edit|unit|form|OK" after a step.
 std::string Choice(const TfrmTranslUnits& form) {
-    return form.edUnitName() + "|" + form.UnitName() + "|" + form.FormName() + (form.btOK.Enabled() ? "|OK" : "|");
+    return form.edUnitName() + "|" + form.UnitName() + "|" + form.FormName() +
+           (form.btOK.Enabled() ? "|OK" : "|");
 }
 
 TEST(TranslUnits, TheChoiceFollowsTypingClickingAndTheFormList) {
