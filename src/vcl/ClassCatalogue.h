@@ -66,9 +66,11 @@ public:
     static std::string_view CppParameters(std::string_view eventType);
 
     void Add(ClassInfo info);
+    using ClassMap = std::unordered_map<std::string, ClassInfo, TextHash, TextEqual>;
+    const ClassMap& Classes() const { return classes_; }
 
 private:
-    std::unordered_map<std::string, ClassInfo, TextHash, TextEqual> classes_;
+    ClassMap classes_;
 };
 
 } // namespace glotta

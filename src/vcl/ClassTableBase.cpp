@@ -12,8 +12,7 @@ TCollection TPersistent <TCollectionItem>:
 TOwnedCollection TCollection <TCollectionItem>:
 TCollectionItem TPersistent:
 TComponent TPersistent: Name Tag
-TBasicAction TComponent: OnExecute OnUpdate
-TBasicActionLink TObject:
+TBasicAction TComponent:
 TDataModule TComponent: OldCreateOrder OnCreate OnDestroy
 @Graphics
 TGraphicsObject TPersistent: OnChange

@@ -130,7 +130,8 @@ TFlowPanel TCustomPanel: Align Anchors AutoSize AutoWrap BevelInner BevelOuter B
 TGridPanel TCustomPanel: Align Anchors AutoSize BevelInner BevelOuter BorderStyle Caption Color Font TabOrder Visible
 TLinkLabel TWinControl: Alignment Anchors AutoSize Caption Color Enabled Font ParentFont ShowHint TabOrder TabStop Visible OnClick
 @Buttons
-TSpeedButton TGraphicControl: Action Align AllowAllUp Anchors BiDiMode Constraints GroupIndex Down Caption Enabled Flat
+TSpeedButton TGraphicControl: Action Align AllowAllUp Anchors BiDiMode Constraints GroupIndex Down Caption Enabled
+ ImageIndex ImageName Images Flat
  Font Glyph Layout=TButtonLayout Margin NumGlyphs ParentFont ParentShowHint ParentBiDiMode PopupMenu ShowHint Spacing
  Transparent Visible OnClick OnDblClick OnMouseDown OnMouseEnter OnMouseLeave OnMouseMove OnMouseUp
 TBitBtn TButton: Action Anchors BiDiMode Cancel Caption Constraints Default DoubleBuffered Enabled Glyph Kind Layout=TButtonLayout
@@ -259,7 +260,7 @@ TToolButton TGraphicControl: Action AllowAllUp AutoSize Caption Down DragCursor 
  EnableDropdown Grouped Height ImageIndex ImageName Indeterminate Marked MenuItem ParentShowHint PopupMenu Wrap ShowHint
  Style=TToolButtonStyle Visible Width OnClick OnContextPopup OnDragDrop OnDragOver OnEndDock OnEndDrag OnMouseDown
  OnMouseMove OnMouseUp OnStartDock OnStartDrag
-TToolWindow TWinControl: EdgeBorders EdgeInner EdgeOuter
+TToolWindow TWinControl:
 TToolBar TToolWindow: Align Anchors AutoSize BorderWidth ButtonHeight ButtonWidth Caption Color Constraints Ctl3D Customizable
  DisabledImages DockSite DoubleBuffered DragCursor DragKind DragMode DrawingStyle=TTBDrawingStyle EdgeBorders EdgeInner
  EdgeOuter Enabled Flat Font Height HideClippedButtons HotImages Images Indent List Menu ParentColor ParentDoubleBuffered

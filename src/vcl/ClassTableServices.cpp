@@ -196,11 +196,12 @@ TServerSocket TComponent: Active Port Service=string ServerType ThreadCacheSize 
 TChart TCustomPanel: BackWall Foot Title=TChartTitle Align Anchors BevelInner BevelOuter Color TabOrder Visible
 TChartTitle TPersistent: Text=TStrings Font Visible
 @QuickRpt
-TQRLabel TGraphicControl: Alignment AlignToBand AutoSize AutoStretch Caption=string Color Font Frame ParentFont Transparent
- WordWrap Size=Integer
-TQRExpr TGraphicControl: Alignment AlignToBand AutoSize Color Expression=string Font Mask=string ParentFont ResetAfterPrint
- Transparent WordWrap
-TQRDBText TGraphicControl: Alignment AlignToBand AutoSize Color DataField DataSet Font Mask=string ParentFont Transparent WordWrap
+TQRLabel TGraphicControl: Frame Size=Integer Alignment AlignToBand AutoSize AutoStretch Caption=string Color Font ParentFont
+ Transparent WordWrap FontSize
+TQRExpr TGraphicControl: Frame Size=Integer Alignment AlignToBand AutoSize AutoStretch Font Color ParentFont ResetAfterPrint
+ Transparent WordWrap Expression=string FontSize Mask=string
+TQRDBText TGraphicControl: Frame Size=Integer Alignment AlignToBand AutoSize AutoStretch Color DataSet DataField Font ParentFont
+ Transparent WordWrap FontSize Mask=string
 )";
 
 } // namespace glotta

@@ -5,11 +5,11 @@ namespace glotta {
 const std::string_view PropertyTypes = R"(
 TCaption s Caption Text
 TTranslateString s
-string s Hint TextHint Title Filter HelpKeyword HelpFile Category ImageName ImeName StyleName DefaultExt FileName InitialDir
+string s ItemSeparator Hint TextHint Title Filter HelpKeyword HelpFile Category ImageName ImeName StyleName DefaultExt FileName InitialDir
  FindText ReplaceText EditMask DisplayLabel DisplayFormat EditFormat DisplayValues DefaultExpression CustomConstraint
  ConstraintErrorMessage ImportedConstraint FieldName KeyFields LookupKeyFields LookupResultField Origin DatabaseName
  TableName IndexName IndexFieldNames MasterFields ConnectionString CommandText ProviderName DataField KeyField ListField
- ValueChecked ValueUnchecked BalloonHint BalloonTitle SimpleText CommandLinkHint Language PropertyName Host Provider
+ ValueChecked ValueUnchecked ClientGuid BalloonHint BalloonTitle SimpleText CommandLinkHint Language PropertyName Host Provider
 TComponentName s Name
 TFontName s
 AnsiString s
@@ -25,7 +25,7 @@ Integer i Left Top Width Height ClientHeight ClientWidth ButtonHeight ButtonWidt
  AnimateDuration HorzMargin VertMargin ListFieldIndex DropDownWidth PanelHeight PanelWidth CommandTimeout
  ConnectionTimeout CacheSize PacketRecords MaxBlobSize GroupID TitleImage StartFrame StopFrame Repetitions NumericScale
  BufferChunks IdleTimer SQLDialect CommitCount ThreadCacheSize Port FileTypeIndex StartOfWeek MinHeight MaxHeight
- UpNumGlyphs DownNumGlyphs GroupingLevel Margin
+ UpNumGlyphs DownNumGlyphs FontSize HorzSeparator GroupingLevel Margin
 LongInt i MaxValue MinValue HelpContext
 Word i
 Cardinal i Interval

@@ -57,20 +57,20 @@ bool IsPlain(std::uint16_t code) {
 
 } // namespace
 
-bool HasWideCodes(std::string_view bytes) {
+bool HasCodes(std::string_view bytes, std::uint32_t least, std::uint32_t most) {
     for (std::size_t at = 0; (at = bytes.find('#', at)) != std::string_view::npos;) {
         const std::size_t sign = at++;
         std::uint32_t code = 0;
-        for (; at < bytes.size() && IsDigit(bytes[at]) && code <= 255; ++at)
+        for (; at < bytes.size() && IsDigit(bytes[at]) && code <= MaxCode; ++at)
             code = code * 10 + static_cast<std::uint32_t>(bytes[at] - '0');
-        if (code > 255 && !IsQuoted(bytes, sign)) return true;
+        if (code >= least && code <= most && !IsQuoted(bytes, sign)) return true;
     }
     return false;
 }
 
 void DetectLiterals(std::string_view bytes, FormShape& shape) {
     shape.utf8 = !IsAscii(bytes) && DetectEncoding(bytes).kind == EncodingKind::Utf8;
-    shape.units = shape.utf8 || HasWideCodes(bytes);
+    shape.units = shape.utf8 || HasCodes(bytes, 256, MaxCode);
 }
 
 void LiteralReader::Quoted(std::string_view bytes) {

@@ -9,10 +9,12 @@
 
 namespace glotta {
 
+inline constexpr std::uint32_t MaxCode = 0x10FFFF;
+
 // Sets utf8 and units from the file's bytes.
 void DetectLiterals(std::string_view bytes, FormShape& shape);
-// Any #n above 255.
-bool HasWideCodes(std::string_view bytes);
+// Any code #n in the range, outside of quotes.
+bool HasCodes(std::string_view bytes, std::uint32_t least, std::uint32_t most);
 
 // Collects the pieces of one string value.
 class LiteralReader {

@@ -56,7 +56,7 @@ public:
         out_ = shape_.before;
         Node(root_, {});
         out_ += shape_.after;
-        if (turned_ && !HasWideCodes(out_))
+        if (turned_ && !HasCodes(out_, 256, MaxCode))
             throw Error(shape_.fileName + ": the form's code page cannot express a new text");
         return std::move(out_);
     }
@@ -76,9 +76,7 @@ private:
     }
 
     bool IsAnew(const FormProperty& property) const {
-        if (property.raw.empty()) return true;
-        return turned_ && property.raw.find('#') != std::string::npos &&
-               !EveryString(property.value, [](const std::string& text) { return IsAscii(text); });
+        return property.raw.empty() || (turned_ && HasCodes(property.raw, 128, 255));
     }
 
     void Node(const FormNode& node, std::string indent) {
