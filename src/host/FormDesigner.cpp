@@ -8,7 +8,7 @@ std::string PlainDesigner::CreateMethod(const std::string& name, const MethodTyp
     const std::string& formClass = Root().ClassName();
     std::string declared = unit_.FindMethod(formClass, name);
     if (!declared.empty()) return declared;
-    unit_.AddMethod(formClass, name, type, heritage_.InheritedCall(name, type));
+    unit_.AddMethod(formClass, name, type, heritage_.DeclaringAncestor(name));
     return name;
 }
 

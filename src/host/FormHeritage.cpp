@@ -33,22 +33,9 @@ void CollectNames(const FormNode& node, std::vector<std::string>& names) {
     }
 }
 
-// "Sender, Key" of "TObject *Sender, WORD &Key".
-std::string Arguments(const std::string& cppParameters) {
-    std::string result;
-    for (std::size_t begin = 0; begin < cppParameters.size();) {
-        const std::size_t end = std::min(cppParameters.find(',', begin), cppParameters.size());
-        const std::string parameter(Trim(std::string_view(cppParameters).substr(begin, end - begin)));
-        result += (result.empty() ? "" : ", ") + parameter.substr(parameter.find_last_of(" *&") + 1);
-        begin = end + 1;
-    }
-    return result;
-}
-
 } // namespace
 
-FormHeritage::FormHeritage(const FormUnit& unit, const FormNode& root, FindAncestorForm find)
-    : isCpp_(unit.IsCpp()) {
+FormHeritage::FormHeritage(const FormUnit& unit, const FormNode& root, FindAncestorForm find) {
     const ClassCatalogue& catalogue = ClassCatalogue::BuiltIn();
     std::string parent = unit.ClassParent(root.className);
     for (int depth = 0; depth < MostAncestors && !parent.empty(); ++depth) {
@@ -80,14 +67,10 @@ bool FormHeritage::HasComponent(std::string_view name) {
                        [&](const std::string& used) { return SameText(used, name); });
 }
 
-std::string FormHeritage::InheritedCall(const std::string& method, const MethodType& type) const {
-    for (const AncestorForm& form : ancestors_) {
-        const std::string declared =
-            FormUnit::FindMethod(form.isCpp, form.declaration, form.formClass, method);
-        if (declared.empty()) continue;
-        return isCpp_ ? form.formClass + "::" + declared + "(" + Arguments(type.cppParameters) + ");"
-                      : "inherited;";
-    }
+std::string FormHeritage::DeclaringAncestor(const std::string& method) const {
+    for (const AncestorForm& form : ancestors_)
+        if (!FormUnit::FindMethod(form.isCpp, form.declaration, form.formClass, method).empty())
+            return form.formClass;
     return {};
 }
 

@@ -31,12 +31,10 @@ public:
     const std::string& RootBase() const { return rootBase_; }
     // True when an ancestor form has a component of that name.
     bool HasComponent(std::string_view name);
-    // The call of the method that an ancestor form declares under this name, as a statement; empty when none
-    // does.
-    std::string InheritedCall(const std::string& method, const MethodType& type) const;
+    // The class of the nearest ancestor form that declares the method, empty when none does.
+    std::string DeclaringAncestor(const std::string& method) const;
 
 private:
-    bool isCpp_;
     std::vector<AncestorForm> ancestors_; // nearest first
     std::string rootBase_;
     std::optional<std::vector<std::string>> names_;

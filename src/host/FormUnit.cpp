@@ -23,14 +23,18 @@ private:
     std::vector<TextEdits> groups_;
 };
 
-// Fills the empty body of a method.
-TextEdits AddStatement(std::string_view text, bool isCpp, const std::string& formClass,
-                       const std::string& name, const std::string& statement) {
-    if (statement.empty()) return {};
+TextEdits AddInheritedCall(std::string_view text, bool isCpp, const std::string& formClass,
+                           const std::string& name, const std::string& ancestor) {
     const auto body = FindMethodBody(text, isCpp, formClass, name);
     if (!body) throw Error("the new method " + formClass + "." + name + " has no body");
-    const std::string indent(isCpp ? 4 : 2, ' ');
-    return {{body->open, body->open, "\r\n" + indent + statement}};
+    std::string call = "\r\n  inherited;";
+    if (isCpp) {
+        call = "\r\n    " + ancestor + "::" + name + "(";
+        for (const std::string& parameter : body->parameters)
+            call += (&parameter == body->parameters.data() ? "" : ", ") + parameter;
+        call += ");";
+    }
+    return {{body->open, body->open, std::move(call)}};
 }
 
 } // namespace
@@ -82,7 +86,7 @@ std::string FormUnit::FindMethod(bool isCpp, std::string_view declaration, const
 }
 
 void FormUnit::AddMethod(const std::string& formClass, const std::string& name, const MethodType& type,
-                         const std::string& statement) {
+                         const std::string& ancestor) {
     Steps source(source_.Buffer().Text());
     TextEdits declaration;
     if (isCpp_) {
@@ -91,7 +95,7 @@ void FormUnit::AddMethod(const std::string& formClass, const std::string& name, 
     } else {
         source.Add(pascal::AddMethod(source.Text(), formClass, name, type.pascalParameters));
     }
-    source.Add(AddStatement(source.Text(), isCpp_, formClass, name, statement));
+    if (!ancestor.empty()) source.Add(AddInheritedCall(source.Text(), isCpp_, formClass, name, ancestor));
     if (isCpp_) DeclaringEditor().Apply({std::move(declaration)});
     source.ApplyTo(source_);
 }

@@ -31,9 +31,10 @@ public:
     std::string FindMethod(const std::string& formClass, const std::string& name) const;
     static std::string FindMethod(bool isCpp, std::string_view declaration, const std::string& formClass,
                                   const std::string& name);
-    // Declares the method with an empty body, or with one that holds `statement` alone.
+    // Declares the method with an empty body. Where the form's `ancestor` has a method of that name, which
+    // would no longer be called, the body calls it, as the IDE has it.
     void AddMethod(const std::string& formClass, const std::string& name, const MethodType& type,
-                   const std::string& statement);
+                   const std::string& ancestor);
     // Puts the cursor into the method's body.
     void ShowMethod(const std::string& formClass, const std::string& name);
 

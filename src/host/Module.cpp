@@ -14,8 +14,7 @@ unsigned FormCodePage(std::optional<Encoding> told, std::optional<Encoding> hint
 
 } // namespace
 
-// --- one source file
-// -------------------------------------------------------------------------------------------------
+// --- one source file ---
 
 OpenSource::OpenSource(ModuleHost& host, IOTAModule& module, std::filesystem::path file,
                        std::optional<Encoding> hint)
@@ -38,8 +37,7 @@ void TakeSavedBytes(const std::vector<FileChange>& changes, const std::filesyste
         if (change.file == file) bytes = change.newBytes;
 }
 
-// --- module
-// ----------------------------------------------------------------------------------------------------------
+// --- module ---
 
 PlainModule::PlainModule(ModuleHost& host, ModuleFiles files, std::optional<Encoding> hint)
     : host_(host), files_(std::move(files)), source_(host, *this, files_.unit, hint) {

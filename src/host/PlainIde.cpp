@@ -36,8 +36,7 @@ PlainIde::PlainIde() {
 }
 PlainIde::~PlainIde() = default;
 
-// --- projects
-// --------------------------------------------------------------------------------------------------------
+// --- projects ---
 
 template <class Module> Module& PlainIde::Adopt(std::unique_ptr<Module> module) {
     Module& result = *module;
@@ -107,8 +106,7 @@ std::optional<AncestorForm> PlainIde::FindAncestor(const IOTAModule& asking, con
     return std::nullopt;
 }
 
-// --- modules
-// ---------------------------------------------------------------------------------------------------------
+// --- modules ---
 
 IOTAModule* PlainIde::GetModule(int index) {
     return index >= 0 && index < ModuleCount() ? modules_[static_cast<std::size_t>(index)].module.get()
@@ -214,8 +212,7 @@ void PlainIde::Forget(IOTAModule& module) {
     std::erase_if(modules_, [&](const Entry& entry) { return entry.module.get() == &module; });
 }
 
-// --- files
-// -----------------------------------------------------------------------------------------------------------
+// --- files ---
 
 std::vector<FileChange> PlainIde::ModifiedFiles() {
     FileStore staged = files_;

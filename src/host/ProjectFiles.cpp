@@ -1,12 +1,10 @@
 #include "host/ProjectFiles.h"
+
+#include "host/FormHead.h"
 #include "host/ProjectEntries.h"
 #include "platform/Encoding.h"
 #include "platform/Error.h"
 #include "platform/Text.h"
-#include "vcl/FormFile.h"
-
-#include <array>
-#include <fstream>
 
 namespace glotta {
 namespace {
@@ -146,21 +144,6 @@ void AddUnits(ProjectDescription& project, PathResolver& paths, ProjectListing l
     entries.Supplement(folder, listing.units);
 }
 
-// Only the file's first block is read. Empty when the file does not begin as a form; opening it will say why.
-std::string RootName(const fs::path& formFile) {
-    if (formFile.empty()) return {};
-    std::array<char, 4096> block;
-    std::ifstream stream(formFile, std::ios::binary);
-    stream.read(block.data(), block.size());
-    try {
-        return FormFile::PeekHead({block.data(), static_cast<std::size_t>(stream.gcount())},
-                                  PathText(formFile))
-            .name;
-    } catch (const Error&) {
-        return {};
-    }
-}
-
 } // namespace
 
 bool IsProjectGroupFile(const fs::path& file) {
@@ -239,7 +222,7 @@ std::vector<IOTAModuleInfo> ModuleInfos(const ProjectDescription& project) {
         info.missing = entry.missing;
         // A CoClass annotation names an interface's class, not a form.
         if (entry.designClass != "CoClass" || !info.formFile.empty()) info.formName = entry.annotatedFormName;
-        if (std::string name = RootName(entry.formFile); !name.empty()) info.formName = std::move(name);
+        if (const auto head = ReadFormHead(entry.formFile); head && !head->name.empty()) info.formName = head->name;
         infos.push_back(std::move(info));
     }
     return infos;

@@ -1,27 +1,13 @@
 #include "host/ProjectModule.h"
 
+#include "host/FormHead.h"
 #include "platform/Error.h"
 #include "platform/Files.h"
-
-#include <array>
-#include <fstream>
 
 namespace glotta {
 namespace {
 
 constexpr unsigned Utf8CodePage = 65001;
-
-std::string FormClassOf(const std::string& formFile) {
-    std::array<char, 4096> block;
-    std::ifstream stream(PathFromText(formFile), std::ios::binary);
-    stream.read(block.data(), block.size());
-    try {
-        return FormFile::PeekHead({block.data(), static_cast<std::size_t>(stream.gcount())}, formFile)
-            .className;
-    } catch (const Error&) {
-        return {};
-    }
-}
 
 void Append(std::vector<FileChange>& to, std::vector<FileChange> changes) {
     std::move(changes.begin(), changes.end(), std::back_inserter(to));
@@ -36,8 +22,7 @@ bool SaveFiles(ModuleHost& host, OpenFiles& files) {
 
 } // namespace
 
-// --- project
-// ---------------------------------------------------------------------------------------------------------
+// --- project ---
 
 PlainProject::PlainProject(ModuleHost& host, ProjectDescription description)
     : host_(host), description_(std::move(description)), modules_(ModuleInfos(description_)) {
@@ -81,7 +66,8 @@ const IOTAModuleInfo* PlainProject::FindFormClass(const std::string& formClass) 
     if (!readHeads_) {
         readHeads_ = true;
         for (const IOTAModuleInfo& info : modules_)
-            if (!info.formFile.empty()) byFormClass_.emplace(FormClassOf(info.formFile), &info);
+            if (const auto head = ReadFormHead(PathFromText(info.formFile)))
+                byFormClass_.emplace(head->className, &info);
     }
     const auto found = byFormClass_.find(formClass);
     return found == byFormClass_.end() ? nullptr : found->second;
@@ -104,8 +90,7 @@ std::vector<std::filesystem::path> PlainProject::Paths() const {
     return paths;
 }
 
-// --- group
-// -----------------------------------------------------------------------------------------------------------
+// --- group ---
 
 PlainProjectGroup::PlainProjectGroup(ModuleHost& host, ProjectGroupDescription description)
     : host_(host), description_(std::move(description)), slots_(description_.projects.size()) {

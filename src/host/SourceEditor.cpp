@@ -73,8 +73,7 @@ private:
     int exceptions_ = std::uncaught_exceptions();
 };
 
-// --- view
-// ------------------------------------------------------------------------------------------------------------
+// --- view ---
 
 void PlainEditView::SetBlock(EditPos start, EditPos after) {
     blockStart_ = Clamped(std::min(start, after));
@@ -110,8 +109,7 @@ void PlainEditView::Follow(const Places& places) {
     follow(blockAfter_, places.blockAfter);
 }
 
-// --- editor
-// ----------------------------------------------------------------------------------------------------------
+// --- editor ---
 
 PlainSourceEditor::PlainSourceEditor(IOTAModule& module, std::string fileName, UnitText text,
                                      std::function<void()> onShow)
