@@ -2,6 +2,7 @@
 // host's: valid while the object they name is open; nil means "not there". Text is UTF-8 with CR LF line ends.
 #pragma once
 #include "vcl/Component.h"
+#include "vcl/Menu.h"
 
 #include <cstddef>
 #include <memory>
@@ -111,9 +112,32 @@ public:
     virtual IDesigner& Designer() = 0;
 };
 
+// What every notifier hears of the object that it is registered with.
+class IOTANotifier {
+public:
+    virtual ~IOTANotifier() = default;
+    virtual void AfterSave() {}
+    virtual void BeforeSave() {}
+    virtual void Destroyed() {} // the object goes away: the notifier is no longer registered afterwards
+    virtual void Modified() {}
+};
+
+// Events of an open module and its form.
+class IOTAModuleNotifier : public IOTANotifier {
+public:
+    virtual void FormActivated() {}
+    virtual void FormSaving() {}
+    // After the rename; the root component is the form itself.
+    virtual void ComponentRenamed(TComponent* /*component*/, const std::string& /*oldName*/,
+                                  const std::string& /*newName*/) {}
+};
+
 class IOTAModule {
 public:
     virtual ~IOTAModule() = default;
+    // The index by which the notifier is removed; -1 when the module takes none.
+    virtual int AddNotifier(std::shared_ptr<IOTAModuleNotifier> /*notifier*/) { return -1; }
+    virtual void RemoveNotifier(int /*index*/) {}
     virtual std::string FileName() const = 0;
     // The name by which the form list refers to the module: its form's name, or the unit name.
     virtual std::string Name() const = 0;
@@ -166,10 +190,77 @@ public:
     virtual bool SaveFile(const std::string& fileName) = 0;
 };
 
-// All services of a running IDE.
+enum TOTAFileNotification { ofnFileOpened, ofnFileClosing, ofnActiveProjectChanged };
+
+// Events of the IDE as a whole.
+class IOTAIDENotifier : public IOTANotifier {
+public:
+    // Before a file closes `cancel` keeps it open; the other events ignore it.
+    virtual void FileNotification(TOTAFileNotification code, const std::string& fileName, bool& cancel) = 0;
+    virtual void BeforeCompile(IOTAProject* /*project*/, bool& /*cancel*/) {}
+    virtual void AfterCompile(bool /*succeeded*/) {}
+    virtual void BeforeCompile(IOTAProject* /*project*/, bool /*isCodeInsight*/, bool& /*cancel*/) {}
+    virtual void AfterCompile(bool /*succeeded*/, bool /*isCodeInsight*/) {}
+};
+
+class IOTAServices {
+public:
+    virtual ~IOTAServices() = default;
+    virtual int AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) = 0; // its index
+    virtual void RemoveNotifier(int index) = 0;
+};
+
+// A form of the IDE on the screen. Editor windows are of the class "TEditWindow" and have the menu "EditorLocalMenu".
+class INTAForm {
+public:
+    virtual ~INTAForm() = default;
+    virtual std::string ClassName() const = 0;
+    // Its component of that name, nil when there is none.
+    virtual TPopupMenu* FindPopupMenu(std::string_view name) = 0;
+};
+inline constexpr std::string_view EditWindowClass = "TEditWindow";
+inline constexpr std::string_view EditControlClass = "TEditControl"; // the control in it that shows the text
+inline constexpr std::string_view EditorMenuName = "EditorLocalMenu";
+
+// The top items of the IDE's main menu, by component name, in their order.
+inline constexpr std::string_view MenuSections[] = {"FileMenu",    "EditMenu", "SearchMenu",
+                                                    "ViewsMenu",   "ProjectMenu", "RunMenu",
+                                                    "ComponentMenu", "ToolsMenu", "HelpMenu"};
+
+class INTAServices {
+public:
+    virtual ~INTAServices() = default;
+    virtual TMainMenu& MainMenu() = 0;
+    virtual int FormCount() const = 0;
+    virtual INTAForm* GetForm(int index) = 0;
+};
+
+// An expert as the IDE knows it.
+class IOTAWizard : public IOTANotifier {
+public:
+    virtual std::string GetIDString() const = 0;
+    virtual std::string GetName() const = 0;
+    virtual std::string GetAuthor() const { return {}; }
+    virtual std::string GetComment() const { return {}; }
+    virtual std::string GetPage() const { return {}; }
+    virtual unsigned GetState() const { return 0; } // a set of flags
+    virtual void Execute() {}
+};
+
+class IOTAWizardServices {
+public:
+    virtual ~IOTAWizardServices() = default;
+    // The IDE holds the wizard until its package is unloaded.
+    virtual void RegisterPackageWizard(std::shared_ptr<IOTAWizard> wizard) = 0;
+};
+
+// All services of a running IDE. Those that a host does not offer are nil.
 struct BorlandIDEServices {
     IOTAModuleServices& modules;
     IOTAActionServices& actions;
+    IOTAServices* services = nullptr;
+    INTAServices* menus = nullptr;
+    IOTAWizardServices* wizards = nullptr;
 };
 
 // The module's nature: modules, projects and groups are told apart by the interface they offer.

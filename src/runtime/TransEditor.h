@@ -1,0 +1,29 @@
+// The translation editor as the expert opens it: a port that the host's windows implement.
+#pragma once
+#include "runtime/CustomLang.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace glotta {
+
+// A record of a component.
+struct TransEditorPlace {
+    TStringsType kind;
+    int index; // from 0
+};
+
+class TransEditor {
+public:
+    virtual ~TransEditor() = default;
+    // Opens the editor, at the place when there is one. True when the person changed translations.
+    virtual bool TransEditorDlg(TgxCustomLang& component, const std::optional<TransEditorPlace>& place) = 0;
+
+    // Hooks of the expert; empty while it is not loaded.
+    // Shows where the unit uses the identifier, in front of all windows with `activate`; false when nowhere.
+    std::function<bool(const std::string& id, bool activate)> NavigateToSource;
+    std::function<void()> ShowAboutBox;
+};
+
+} // namespace glotta
