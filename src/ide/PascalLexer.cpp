@@ -1,5 +1,7 @@
 #include "ide/PascalLexer.h"
 
+#include "ide/ConditionalBranch.h"
+
 namespace glotta::pascal {
 
 namespace {
@@ -132,6 +134,22 @@ const char* Lexer::RareEnd(const char* p, TokenKind& kind) const {
     return p + 1;
 }
 
+void Lexer::FollowBranch(const Token& directive) {
+    switch (BranchOf({begin_ + directive.begin, directive.end - directive.begin})) {
+    case Branch::If:
+        asmBefore_.push_back(inAsm_);
+        break;
+    case Branch::Else:
+        if (!asmBefore_.empty()) inAsm_ = asmBefore_.back();
+        break;
+    case Branch::EndIf:
+        if (!asmBefore_.empty()) asmBefore_.pop_back();
+        break;
+    default:
+        break;
+    }
+}
+
 bool Lexer::NextInAsm(Token& token) {
     const char* p = p_;
     for (; p < end_ && ClassOf(*p) == ByteClass::Blank; ++p)
@@ -156,7 +174,10 @@ bool Lexer::NextInAsm(Token& token) {
     }
     p_ = p;
     token = {kind, Offset(start), Offset(p)};
-    if (kind == TokenKind::Identifier) last_ = token;
+    if (kind == TokenKind::Identifier)
+        last_ = token;
+    else if (kind == TokenKind::Directive)
+        FollowBranch(token);
     return true;
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstring>
+#include <vector>
 
 namespace glotta::pascal {
 
@@ -156,7 +157,10 @@ public:
         }
         p_ = p;
         token = {kind, Offset(start), Offset(p)};
-        if (kind != TokenKind::Comment && kind != TokenKind::Directive) last_ = token;
+        if (kind == TokenKind::Directive)
+            FollowBranch(token);
+        else if (kind != TokenKind::Comment)
+            last_ = token;
         return true;
     }
 
@@ -191,6 +195,7 @@ private:
     const char* CodeEnd(const char* p) const;
     bool IsControl(const char* p) const;
     bool StartsControlString(const char* p) const;
+    void FollowBranch(const Token& directive);
     bool NextInAsm(Token& token);
     const char* AsmPieceEnd(const char* p);
     bool ClosesAsm(const char* word, const char* wordEnd) const;
@@ -201,6 +206,7 @@ private:
     Extents extents_;
     Token last_{TokenKind::Bad, 0, 0}; // neither comment nor directive
     bool inAsm_ = false;
+    std::vector<bool> asmBefore_;     // for each open {$IFDEF}: its branches begin alike
     const char* semicolon_ = nullptr; // the last one on the present line of an assembler block
 };
 

@@ -14,11 +14,12 @@ class CallPlaces {
 public:
     CallPlaces(std::string_view text, bool isCpp);
     ~CallPlaces();
-    // Why no call can replace bytes [begin, end), as a short English phrase ("in a const section", "label of a case
-    // statement", "cuts a token"); empty when one can.
+    // Why no call can replace bytes [begin, end), as a short English phrase ("in a const section", "label of
+    // a case statement", "cuts a token"); empty when one can.
     std::string_view WhyNot(std::size_t begin, std::size_t end) const;
 
-    // One declaration-level constant section: `begin` behind the word const, `end` at the next section keyword.
+    // One declaration-level constant section: `begin` behind the word const, `end` at the next section
+    // keyword.
     struct ConstSection {
         std::size_t begin, end;
         bool inRoutine, inClass;

@@ -1,159 +1,12 @@
 // Object Pascal: a call can stand inside a statement part alone.
-#include "scanner/CallPlacesWalk.h"
-
 #include "ide/PascalLexer.h"
-#include "scanner/WordTable.h"
+#include "scanner/CallPlacesPascalState.h"
 
 namespace glotta::places {
 
+using namespace pascal_walk;
+
 namespace {
-
-enum class Word : std::uint8_t {
-    None,
-    Package,
-    Interface,
-    Implementation,
-    Initialization, // and finalization
-    Uses,
-    Contains, // and requires
-    Exports,
-    Const,
-    ResourceString,
-    Type,
-    Var,
-    Label,
-    Routine,
-    Operator,
-    Property,
-    Class,
-    Record,
-    Object,
-    Packed,
-    ClassKind, // abstract, sealed, helper
-    For,
-    Begin,
-    End,
-    Case,
-    Of,
-    To,
-    Try,
-    Repeat,
-    Until,
-    Asm,
-    External,
-    Forward,
-    Name, // and index, behind external or in an exports clause
-    Message,
-    Deprecated,
-    Visibility,
-};
-
-constexpr std::pair<std::string_view, Word> words[] = {
-    {"package", Word::Package},
-    {"interface", Word::Interface},
-    {"dispinterface", Word::Interface},
-    {"implementation", Word::Implementation},
-    {"initialization", Word::Initialization},
-    {"finalization", Word::Initialization},
-    {"uses", Word::Uses},
-    {"contains", Word::Contains},
-    {"requires", Word::Contains},
-    {"exports", Word::Exports},
-    {"const", Word::Const},
-    {"resourcestring", Word::ResourceString},
-    {"type", Word::Type},
-    {"var", Word::Var},
-    {"threadvar", Word::Var},
-    {"label", Word::Label},
-    {"procedure", Word::Routine},
-    {"function", Word::Routine},
-    {"constructor", Word::Routine},
-    {"destructor", Word::Routine},
-    {"operator", Word::Operator},
-    {"property", Word::Property},
-    {"class", Word::Class},
-    {"record", Word::Record},
-    {"object", Word::Object},
-    {"packed", Word::Packed},
-    {"abstract", Word::ClassKind},
-    {"sealed", Word::ClassKind},
-    {"helper", Word::ClassKind},
-    {"for", Word::For},
-    {"begin", Word::Begin},
-    {"end", Word::End},
-    {"case", Word::Case},
-    {"of", Word::Of},
-    {"to", Word::To},
-    {"try", Word::Try},
-    {"repeat", Word::Repeat},
-    {"until", Word::Until},
-    {"asm", Word::Asm},
-    {"external", Word::External},
-    {"forward", Word::Forward},
-    {"name", Word::Name},
-    {"index", Word::Name},
-    {"message", Word::Message},
-    {"deprecated", Word::Deprecated},
-    {"platform", Word::Deprecated},
-    {"experimental", Word::Deprecated},
-    {"private", Word::Visibility},
-    {"protected", Word::Visibility},
-    {"public", Word::Visibility},
-    {"published", Word::Visibility},
-    {"strict", Word::Visibility},
-    {"automated", Word::Visibility},
-};
-constexpr WordTable<Word, std::size(words), LetterCase::Ignored> wordTable(words);
-
-enum class Frame : std::uint8_t {
-    Unit,
-    TypeBody, // of a class, record or interface
-    Routine,  // heading and local declarations
-    Done,     // behind "end."
-    // Statement parts
-    Begin, // and try
-    Case,
-    Repeat,
-    Asm
-};
-
-enum class Section : std::uint8_t {
-    None,
-    Const,
-    ResourceString,
-    Var,
-    Type,
-    Uses,
-    Exports,
-    Heading,
-    Directives,
-    External
-};
-
-// What stands before a token: a symbol's first character, or one of these.
-enum Before : char { Nothing = 0, AWord = 'a', ANumber = '0', ALiteral = '\'', DotDot = 'r', Assign = '!' };
-
-struct State {
-    std::uint32_t parent = 0;
-    std::uint32_t depth = 0;          // of parentheses and brackets in this frame
-    std::uint32_t attributeDepth = 0; // of the bracket that opened an attribute
-    std::uint32_t firstLabel = 0;     // Case: the first place that may belong to a label
-    std::uint32_t constSection = 0;   // the open one, counted from 1
-    Frame frame = Frame::Unit;
-    Section section = Section::None;
-    Word word = Word::None; // before
-    char before = Nothing;
-    bool inInterface = false, inRoutine = false, inClass = false;
-    bool header = false; // TypeBody: nothing but "class(TBase)" seen so far
-    bool inAttribute = false;
-    bool ofSeen = false, inLabel = false; // Case
-    bool inlineConst = false;
-    bool isPackage = false;
-};
-
-bool IsStatement(Frame frame) {
-    return frame >= Frame::Begin;
-}
 
 class Walker {
 public:
@@ -441,17 +294,34 @@ private:
             s_.inRoutine = true;
         }
         s_.section = Section::Heading;
+        s_.inName = true;
+    }
+    // "procedure TForm1.": no such routine is nested in another, so a body was missing.
+    void LeaveOuterRoutines() {
+        const State heading = s_;
+        while (s_.frame == Frame::Routine && Pop()) {
+        }
+        if (!IsStatement(s_.frame)) {
+            s_.section = Section::None;
+            Push(Frame::Routine);
+            s_.inRoutine = true;
+            s_.section = Section::Heading;
+        } else {
+            s_ = heading;
+        }
     }
 
     void TakeSymbol(char symbol, const Token& token) {
         switch (symbol) {
         case '[':
+            s_.inName = false;
             if (!s_.inAttribute && OpensAttribute()) {
                 s_.inAttribute = true;
                 s_.attributeDepth = s_.depth;
             }
             [[fallthrough]];
         case '(':
+            s_.inName = false;
             ++s_.depth;
             return;
         case ']':
@@ -463,6 +333,7 @@ private:
             if (s_.depth == 0) EndDeclarationOrStatement();
             return;
         case ':':
+            s_.inName = false;
             if (s_.inLabel && s_.depth == 0) EndLabel();
             return;
         case '.':
@@ -470,6 +341,9 @@ private:
                 CloseConst(token.begin);
                 Reset();
                 s_.frame = Frame::Done;
+            } else if (s_.inName) {
+                s_.inName = false;
+                if (s_.frame == Frame::Routine) LeaveOuterRoutines();
             }
             return;
         case DotDot:

@@ -1,5 +1,6 @@
 // The walk over a unit that finds out for each literal whether a call could stand in its place.
 #pragma once
+#include "ide/ConditionalBranch.h"
 #include "scanner/CallPlaces.h"
 
 namespace glotta::places {
@@ -56,10 +57,6 @@ struct Walked {
 };
 Walked WalkPascal(std::string_view text);
 Walked WalkCpp(std::string_view text);
-
-// What a directive does to the branches of a text.
-enum class Branch : std::uint8_t { None, If, Else, EndIf };
-Branch BranchOf(std::string_view directive);
 
 // Nesting and conditional branches of a walk. State has a member `std::uint32_t parent = 0`; frames are never
 // changed once pushed, so that a branch can be resumed at the cost of one copy, however deep the nesting.

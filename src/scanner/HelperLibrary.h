@@ -8,8 +8,8 @@ namespace glotta {
 
 class HelperLibrary {
 public:
-    // Loads the library from beside the program, else from where the system looks. Never fails: what is absent is
-    // reported by the Has... functions.
+    // Loads the library from beside the program, else from where the system looks. Never fails: what is
+    // absent is reported by the Has... functions.
     explicit HelperLibrary(const std::string& name = "TGlotta_Common");
     ~HelperLibrary();
     HelperLibrary(const HelperLibrary&) = delete;
