@@ -2,6 +2,7 @@
 // there already gives no edit, so every operation can be repeated. Each result compiles when the unit did.
 // A place that cannot be found (no such class, no implementation) is an Error that says which.
 #pragma once
+#include "ide/SourceTokens.h"
 #include "ide/ToolsApi.h"
 #include "platform/TextEdit.h"
 
@@ -60,6 +61,10 @@ struct MethodBody {
     std::size_t open, close;
     std::vector<std::string> parameters; // names, as the body's heading has them
 };
+// Where the instance methods of a class lie, in ascending order: from the heading (C++: the class name before "::") to
+// the body's end. Routines nested in a method belong to it.
+std::vector<ByteRange> InstanceMethods(std::string_view text, bool isCpp, std::string_view className);
+
 std::optional<MethodBody> FindMethodBody(std::string_view text, bool isCpp, std::string_view className,
                                          std::string_view name);
 

@@ -21,4 +21,8 @@ std::optional<MethodBody> FindMethodBody(std::string_view text, bool isCpp, std:
                       unit.ParameterNames(*routine)};
 }
 
+std::vector<ByteRange> InstanceMethods(std::string_view text, bool isCpp, std::string_view className) {
+    return isCpp ? cpp::CppStructure(text).MethodsOf(className) : pascal::UnitStructure(text).MethodsOf(className);
+}
+
 } // namespace glotta

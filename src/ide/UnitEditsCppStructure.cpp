@@ -105,4 +105,27 @@ std::vector<std::string> CppStructure::ParameterNames(const Body& body) const {
     return names;
 }
 
+std::vector<ByteRange> CppStructure::MethodsOf(std::string_view className) const {
+    std::vector<ByteRange> methods;
+    const std::size_t count = tokens_.Count();
+    for (std::size_t i = 0; i + 3 < count; ++i) {
+        if (tokens_[i] != className || !tokens_.IsSymbol(i + 1, "::")) continue;
+        std::size_t at = i + 2;
+        while (at < count && (tokens_.IsWord(at) || tokens_.IsSymbol(at, "~") || tokens_.IsSymbol(at, "::"))) ++at;
+        if (!tokens_.IsSymbol(at, "(")) continue;
+        for (at = tokens_.Closing(at, count) + 1; at < count; ++at) {
+            if (tokens_.IsSymbol(at, "("))
+                at = tokens_.Closing(at, count);
+            else if (tokens_.IsSymbol(at, "{") || tokens_.IsSymbol(at, ";") || tokens_.IsSymbol(at, ")"))
+                break;
+        }
+        if (!tokens_.IsSymbol(at, "{")) continue;
+        const std::size_t close = tokens_.Closing(at, count);
+        if (close >= count) continue;
+        methods.push_back({static_cast<std::uint32_t>(tokens_.Begin(i)), static_cast<std::uint32_t>(tokens_.End(close))});
+        i = close;
+    }
+    return methods;
+}
+
 } // namespace glotta::cpp

@@ -36,6 +36,8 @@ public:
     std::vector<Member> Members(const Class& type, std::size_t* published = nullptr) const;
     Body FindBody(std::string_view className, std::string_view name) const;
     std::vector<std::string> ParameterNames(const Body& body) const;
+    // Constructors with their initialiser lists included.
+    std::vector<ByteRange> MethodsOf(std::string_view className) const;
 
 private:
     Class ClassAt(std::size_t keyword) const;

@@ -48,6 +48,8 @@ public:
     std::string_view FindDeclared(const Class& type, std::string_view name, bool methodsOnly) const;
     // The method's body in the implementation; nil when there is none.
     const Routine* FindRoutine(std::string_view className, std::string_view name) const;
+    // The bodies of the class's instance methods.
+    std::vector<ByteRange> MethodsOf(std::string_view className) const;
     // Names of the parameters in the heading of a routine.
     std::vector<std::string> ParameterNames(const Routine& routine) const;
     // The end of what is opened at `index`, else `index`.

@@ -115,10 +115,13 @@ public:
 
     // The file's bytes. Throws Error when a new text cannot be expressed.
     std::string Write() const;
+    // A binary form as the text that an IDE shows for it; for reading only.
+    std::string AsText() &&;
 
     FormNode& Root() { return *root_; }
     const FormNode& Root() const { return *root_; }
     bool IsBinary() const { return shape_.binary; }
+    unsigned CodePage() const { return shape_.codePage; }
 
 private:
     std::unique_ptr<FormNode> root_;

@@ -1,0 +1,49 @@
+#include "cli/ProjectSession.h"
+
+#include "platform/Error.h"
+#include "platform/Files.h"
+#include "storage/Projectsettings.h"
+
+#include <iostream>
+#include <utility>
+
+namespace glotta {
+
+ProjectSession::ProjectSession(Session& session, const std::string& project)
+    : session_(session), services_(ide_.Services(), forms_, ui_) {
+    ide_.SetDeferWrites(true);
+    ide_.OpenProject(project, session.ToldEncoding());
+    forms_ = ListProjectForms(Project(), problems_);
+}
+
+IOTAProject& ProjectSession::Project() {
+    IOTAProject* project = services_.GetActiveProject();
+    if (!project)
+        throw Error("the project group has no project that can be opened");
+    return *project;
+}
+
+std::string ProjectSession::Shown(const std::string& fileName) const {
+    return PathText(PathFromText(fileName).lexically_proximate(std::filesystem::current_path()));
+}
+
+std::string ProjectSession::ProjectOption(std::string_view name) {
+    TGlottaProjectSettings settings;
+    settings.SetFileName(PathFromText(Project().FileName()).replace_extension(".gxproj"));
+    return settings.GetOptionValue(name);
+}
+
+std::optional<Encoding> ProjectSession::EncodingHint() {
+    if (session_.ToldEncoding())
+        return session_.ToldEncoding();
+    auto* project = dynamic_cast<PlainProject*>(&Project());
+    return project ? project->EncodingHint() : std::nullopt;
+}
+
+void ProjectSession::PrintProblems() {
+    for (const std::vector<std::string>* problems : {&std::as_const(problems_), &ide_.Problems()})
+        for (const std::string& problem : *problems)
+            std::cerr << problem << "\n";
+}
+
+} // namespace glotta
