@@ -21,13 +21,14 @@ public:
     std::size_t Count() const { return tokens_.size(); }
     // A token's text; empty past the end.
     std::string_view operator[](std::size_t index) const;
-    TokenKind Kind(std::size_t index) const { return tokens_[index].kind; }
+    TokenKind Kind(std::size_t index) const { return index < Count() ? tokens_[index].kind : TokenKind::Bad; }
     bool IsWord(std::size_t index) const; // an identifier or keyword
     // The identifier `word`; Object Pascal ignores letter case (`word` is given in lower case).
     bool Is(std::size_t index, std::string_view word) const;
     bool IsSymbol(std::size_t index, std::string_view symbol) const { return (*this)[index] == symbol; }
-    std::size_t Begin(std::size_t index) const { return tokens_[index].begin; }
-    std::size_t End(std::size_t index) const { return tokens_[index].end; }
+    // Past the last token the text's end.
+    std::size_t Begin(std::size_t index) const { return index < Count() ? tokens_[index].begin : text_.size(); }
+    std::size_t End(std::size_t index) const { return index < Count() ? tokens_[index].end : text_.size(); }
     // Index of the first token at or behind a place.
     std::size_t IndexAt(std::size_t place) const;
     // The bracket that closes the one at `open`, at most `end`.
