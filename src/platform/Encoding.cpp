@@ -335,6 +335,16 @@ EncodeResult Encode(std::string_view text, const Encoding& encoding) {
     return result;
 }
 
+bool HasRawCharacters(std::string_view text) {
+    for (std::size_t pos = text.find('\xF4'); pos != std::string_view::npos;
+         pos = text.find('\xF4', pos + 1)) {
+        std::size_t next = pos;
+        const char32_t character = NextChar(text, next);
+        if (IsRawByte(character) || IsRawUnit(character)) return true;
+    }
+    return false;
+}
+
 bool CanEncode(std::string_view text, const Encoding& encoding) {
     return !Encode(text, encoding).unencodable;
 }

@@ -1,12 +1,16 @@
 #include "platform/IniFile.h"
 
 #include "platform/Error.h"
-#include "platform/Files.h"
 #include "platform/IntText.h"
 #include "platform/LineSpans.h"
 
 namespace glotta {
 namespace {
+
+std::string ReadIfThere(const std::filesystem::path& file) {
+    std::error_code failed;
+    return std::filesystem::exists(file, failed) ? ReadFile(file) : std::string();
+}
 
 bool IsComment(std::string_view line) {
     return line.empty() || line[0] == ';' || line[0] == '#';
@@ -30,10 +34,10 @@ void CheckWritable(const std::filesystem::path& file, std::string_view section, 
 } // namespace
 
 TgxMemIniFile::TgxMemIniFile(std::filesystem::path file, std::optional<Encoding> hint)
-    : file_(std::move(file)) {
-    std::error_code failed;
-    const std::string bytes = std::filesystem::exists(file_, failed) ? ReadFile(file_) : std::string();
-    encoding_ = DetectEncoding(bytes, {}, hint);
+    : TgxMemIniFile(file, ReadIfThere(file), hint) {}
+
+TgxMemIniFile::TgxMemIniFile(std::filesystem::path file, std::string_view bytes, std::optional<Encoding> hint)
+    : file_(std::move(file)), encoding_(DetectEncoding(bytes, {}, hint)) {
     Parse(Decode(bytes, encoding_));
 }
 
@@ -109,7 +113,7 @@ void TgxMemIniFile::EraseSection(std::string_view section) {
     text_.EraseSection(section);
 }
 
-void TgxMemIniFile::UpdateFile() {
+std::string TgxMemIniFile::ToBytes() {
     const std::string text = text_.ToText();
     EncodeResult encoded = Encode(text, encoding_);
     if (encoded.unencodable) {
@@ -118,7 +122,7 @@ void TgxMemIniFile::UpdateFile() {
     }
     if (encoded.unencodable)
         throw Error(PathText(file_) + ": a character cannot be written in " + encoding_.Name());
-    WriteFileAtomically(file_, encoded.bytes);
+    return std::move(encoded.bytes);
 }
 
 } // namespace glotta

@@ -1,6 +1,7 @@
 // An INI file in memory.
 #pragma once
 #include "platform/Encoding.h"
+#include "platform/Files.h"
 #include "platform/SectionedText.h"
 
 #include <filesystem>
@@ -17,6 +18,8 @@ class TgxMemIniFile {
 public:
     // Reads the file; a missing one is empty. `hint` is the encoding of bytes that do not tell it themselves.
     explicit TgxMemIniFile(std::filesystem::path file, std::optional<Encoding> hint = {});
+    // From the bytes given; the file is not read.
+    TgxMemIniFile(std::filesystem::path file, std::string_view bytes, std::optional<Encoding> hint = {});
 
     const std::filesystem::path& FileName() const { return file_; }
 
@@ -36,8 +39,10 @@ public:
     std::vector<std::string> Sections() const { return text_.SectionNames(); }
     std::vector<std::string> Keys(std::string_view section) const { return text_.EntryNames(section); }
 
-    // Writes the file atomically. Characters that its encoding lacks make it UTF-8 with a byte order mark.
-    void UpdateFile();
+    // The file's new content. Characters that its encoding lacks make it UTF-8 with a byte order mark.
+    std::string ToBytes();
+    // Writes the file atomically.
+    void UpdateFile() { WriteFileAtomically(file_, ToBytes()); }
 
 private:
     void Parse(std::string_view text);

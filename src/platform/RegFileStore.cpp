@@ -86,8 +86,7 @@ void RegFileStore::WriteString(std::string_view key, std::string_view name, std:
     CheckName(name);
     ChangeFile([&, full = FullKey(key)](Content& content) {
         content.AddKey(full);
-        if (content.text.Value(full, name) == value)
-            return;
+        if (content.text.Value(full, name) == value) return;
         const std::string entry = RegEntry(content.text.Spelling(full, name), value, content.lineEnd);
         content.text.Put(full, name, entry, std::string(value), content.lineEnd);
     });

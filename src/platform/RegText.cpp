@@ -3,11 +3,12 @@
 #include "platform/Encoding.h"
 #include "platform/Error.h"
 #include "platform/LineSpans.h"
+#include "platform/Utf16.h"
 
 namespace glotta {
 namespace {
 
-constexpr Encoding Utf16{EncodingKind::Utf16LE};
+using Byte = unsigned char;
 
 int HexDigit(char c) {
     if (c >= '0' && c <= '9') return c - '0';
@@ -156,7 +157,10 @@ private:
         const std::string bytes = ReadBytes();
         if (kind != "1" && kind != "2") return {};
         if (bytes.size() % 2) Fail("a text has an even number of bytes");
-        std::string value = Decode(bytes, Utf16);
+        std::u16string units;
+        for (std::size_t i = 0; i < bytes.size(); i += 2)
+            units += static_cast<char16_t>(Byte(bytes[i]) + Byte(bytes[i + 1]) * 256);
+        std::string value = FromUtf16(units);
         if (value.ends_with('\0')) value.pop_back();
         return value;
     }
@@ -214,12 +218,12 @@ std::string HexText(std::string_view head, std::string_view value, std::string_v
     std::string result(head);
     result += "hex(1):";
     std::size_t column = result.size();
-    const std::string bytes = Encode(std::string(value) + '\0', Utf16).bytes;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(bytes[i]);
+    const std::u16string units = ToUtf16(value) + u'\0';
+    for (std::size_t i = 0; i < units.size() * 2; ++i) {
+        const unsigned byte = i % 2 ? units[i / 2] >> 8 : units[i / 2] & 0xFF;
         result += {Digits[byte >> 4], Digits[byte & 15]};
         column += 3;
-        if (i + 1 == bytes.size()) break;
+        if (i + 1 == units.size() * 2) break;
         result += ',';
         if (column > Width) {
             result.append("\\").append(lineEnd).append("  ");
@@ -237,9 +241,8 @@ SectionedText ParseRegText(std::string_view text, const std::string& file) {
 
 std::string RegEntry(std::string_view name, std::string_view value, std::string_view lineEnd) {
     const std::string head = (name.empty() ? "@" : Quoted(name)) + "=";
-    const bool plain = std::none_of(value.begin(), value.end(), [](char c) {
-        return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
-    });
+    const auto isControl = [](char c) { return Byte(c) < ' ' || c == '\x7F'; };
+    const bool plain = std::none_of(value.begin(), value.end(), isControl) && !HasRawCharacters(value);
     return plain ? head + Quoted(value) + std::string(lineEnd) : HexText(head, value, lineEnd);
 }
 

@@ -15,7 +15,7 @@ SectionedText ParseRegText(std::string_view text, const std::string& file);
 // An empty store.
 inline constexpr std::string_view RegTextHead = "Windows Registry Editor Version 5.00\r\n";
 
-// `"name"="value"`; hex(1) where the text holds control characters, which a quoted text cannot.
+// `"name"="value"`; hex(1) where the text holds what a quoted text cannot: control characters, undecodable bytes.
 std::string RegEntry(std::string_view name, std::string_view value, std::string_view lineEnd);
 
 } // namespace glotta

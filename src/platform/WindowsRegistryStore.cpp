@@ -2,7 +2,7 @@
 #include "platform/WindowsRegistryStore.h"
 
 #include "platform/Error.h"
-#include "platform/Files.h"
+#include "platform/Utf16.h"
 
 #include <system_error>
 #include <windows.h>
