@@ -28,15 +28,17 @@ std::vector<BenchUnit> ReadTree(const std::filesystem::path& tree) {
 } // namespace
 
 BenchUnit UnitWithLiterals(int count) {
-    std::string text = "unit Orders;\r\n\r\ninterface\r\n\r\nuses\r\n  SysUtils, Classes;\r\n\r\nimplementation\r\n";
+    std::string text =
+        "unit Orders;\r\n\r\ninterface\r\n\r\nuses\r\n  SysUtils, Classes;\r\n\r\nimplementation\r\n";
     for (int i = 0; i < count; ++i) {
         const std::string number = std::to_string(i);
         if (i % LiteralsPerRoutine == 0)
             text += "\r\n// Tells the clerk what's wrong with an order\r\nprocedure TOrders.Check" + number +
                     "(Order: TOrder);\r\nvar\r\n  Total: Currency; { it's the customer's }\r\nbegin\r\n"
                     "  Total := Order.Amount * Order.Price - Discount(Order.Customer, Order.Date);\r\n";
-        text += "  if Total > " + number + " then\r\n    ShowMessage('Order is too large: " +
-                std::to_string(i % 10 == 0 ? 0 : i) + "');\r\n";
+        text += "  if Total > " + number +
+                " then\r\n    ShowMessage('Order is too large: " + std::to_string(i % 10 == 0 ? 0 : i) +
+                "');\r\n";
         if (i % LiteralsPerRoutine == LiteralsPerRoutine - 1 || i + 1 == count) text += "end;\r\n";
     }
     return {"Orders.pas", text + "\r\nend.\r\n"};

@@ -10,8 +10,8 @@ struct BenchUnit {
     std::string text; // as a buffer holds it
 };
 
-// A unit with this many literals in code and the comments, names and directives around them; every tenth text is
-// equal to an earlier one.
+// A unit with this many literals in code and the comments, names and directives around them; every tenth text
+// is equal to an earlier one.
 BenchUnit UnitWithLiterals(int count);
 // The tree's units; a made-up set of about 10 MB without a tree.
 const std::vector<BenchUnit>& BenchUnits();

@@ -69,7 +69,8 @@ void BM_ScanSource(benchmark::State& state) {
     OverAllUnits(state, [&](const BenchUnit& unit, const SourceFlavour&) {
         found += ScanUnit(unit, Rules()).found.Count();
     });
-    state.counters["found"] = benchmark::Counter(static_cast<double>(found), benchmark::Counter::kAvgIterations);
+    state.counters["found"] =
+        benchmark::Counter(static_cast<double>(found), benchmark::Counter::kAvgIterations);
 }
 
 void BM_ScanSourceWithoutHelper(benchmark::State& state) {

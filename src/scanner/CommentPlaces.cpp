@@ -5,7 +5,8 @@ namespace glotta {
 bool CommentPlaces::At(std::size_t byte) {
     if (!helper_.HasCommentTest() || byte >= text_.size()) return false;
     if (!prepared_) {
-        // The library takes a text that ends in a zero and may go on reading it; a zero inside must not end it.
+        // The library takes a text that ends in a zero and may go on reading it; a zero inside must not end
+        // it.
         thread_local std::string source;
         source.assign(text_);
         if (source.find('\0') != std::string::npos) std::replace(source.begin(), source.end(), '\0', ' ');

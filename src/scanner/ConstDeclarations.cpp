@@ -2,7 +2,8 @@
 
 namespace glotta {
 
-ConstDeclarations::ConstDeclarations(std::string_view text, const std::vector<CallPlaces::ConstSection>& sections) {
+ConstDeclarations::ConstDeclarations(std::string_view text,
+                                     const std::vector<CallPlaces::ConstSection>& sections) {
     for (const CallPlaces::ConstSection& section : sections)
         Read(text, section);
 }
@@ -44,8 +45,9 @@ void ConstDeclarations::Read(std::string_view text, const CallPlaces::ConstSecti
 }
 
 const ConstDeclarations::Declaration* ConstDeclarations::At(std::size_t place) const {
-    const auto next = std::upper_bound(declarations_.begin(), declarations_.end(), place,
-                                       [](std::size_t at, const Declaration& d) { return at < d.valueBegin; });
+    const auto next =
+        std::upper_bound(declarations_.begin(), declarations_.end(), place,
+                         [](std::size_t at, const Declaration& d) { return at < d.valueBegin; });
     if (next == declarations_.begin() || place >= std::prev(next)->end) return nullptr;
     return &*std::prev(next);
 }

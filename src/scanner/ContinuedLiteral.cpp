@@ -5,7 +5,9 @@ namespace {
 
 const std::string QuoteAlone = "\"";
 
-bool EndsInBackslash(std::string_view text, std::size_t end) { return end > 0 && text[end - 1] == '\\'; }
+bool EndsInBackslash(std::string_view text, std::size_t end) {
+    return end > 0 && text[end - 1] == '\\';
+}
 
 } // namespace
 

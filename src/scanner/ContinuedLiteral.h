@@ -10,7 +10,8 @@ namespace glotta {
 class ContinuedLiteral {
 public:
     bool Open() const { return !closing_.empty(); }
-    // Takes note of a literal without an end that the line leaves open: a raw one, or one with a backslash at its end.
+    // Takes note of a literal without an end that the line leaves open: a raw one, or one with a backslash at
+    // its end.
     void Begin(std::string_view text, const LiteralStart& start, std::size_t lineEnd);
     // Where the code of the line [from, lineEnd) begins.
     std::size_t Skip(std::string_view text, std::size_t from, std::size_t lineEnd);

@@ -12,7 +12,7 @@ void TgxFoundSourceStrings::Sort() {
 }
 
 const char* SkipReasonName(TStringSkipReason reason) {
-    static constexpr const char* Names[] = {"ssrNone",         "ssrBadChars",   "ssrByLine",  "ssrByPhrase",
+    static constexpr const char* Names[] = {"ssrNone",        "ssrBadChars",   "ssrByLine",  "ssrByPhrase",
                                             "ssrByPhrasesRE", "ssByIgnoreTag", "ssrComments"};
     return Names[reason];
 }

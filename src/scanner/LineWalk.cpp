@@ -59,7 +59,8 @@ void LineWalk::Leave() {
 }
 
 bool ContainsMarker(std::string_view line, std::string_view marker) {
-    for (std::size_t at = line.find(marker[0]); at != std::string_view::npos; at = line.find(marker[0], at + 1))
+    for (std::size_t at = line.find(marker[0]); at != std::string_view::npos;
+         at = line.find(marker[0], at + 1))
         if (StartsWithText(line.substr(at, marker.size()), marker)) return true;
     return false;
 }

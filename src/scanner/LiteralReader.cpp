@@ -7,8 +7,12 @@ namespace {
 
 constexpr auto Nowhere = std::string_view::npos;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool IsBlank(char c) {
+    return static_cast<unsigned char>(c) <= ' ';
+}
 bool IsWordChar(char c) {
     return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
            static_cast<unsigned char>(c) >= 0x80;
@@ -25,7 +29,9 @@ bool IsPrefix(std::string_view word) {
            word == "u8R" || word == "uR" || word == "UR";
 }
 
-bool IsWrapper(std::string_view word) { return word == "_T" || word == "TEXT"; }
+bool IsWrapper(std::string_view word) {
+    return word == "_T" || word == "TEXT";
+}
 
 // The word that ends at `end`, not reaching back before `from`.
 std::string_view WordBefore(std::string_view text, std::size_t end, std::size_t from) {
@@ -71,10 +77,11 @@ std::size_t LiteralReader::SkipBlanks(std::size_t pos, std::size_t limit) const 
 
 LiteralStart LiteralReader::Quoted(std::size_t open, std::size_t limit) const {
     LiteralStart start{.begin = open, .open = open, .contentBegin = open + 1};
-    if (flavour_.IsCPPSource) {
+    if (rawStrings_) {
         const std::string_view word = WordBefore(text_, open, open - std::min<std::size_t>(open, 4));
         const bool raw = word.ends_with('R') && IsPrefix(word);
-        const std::size_t bracket = raw ? text_.substr(0, std::min(limit, open + 18)).find('(', open) : Nowhere;
+        const std::size_t bracket =
+            raw ? text_.substr(0, std::min(limit, open + 18)).find('(', open) : Nowhere;
         if (bracket != Nowhere) {
             const std::string closing = ')' + std::string(text_.substr(open + 1, bracket - open - 1)) + '"';
             start.raw = true;
@@ -103,31 +110,35 @@ LiteralStart LiteralReader::Quoted(std::size_t open, std::size_t limit) const {
     return start;
 }
 
-bool LiteralReader::Find(std::size_t from, std::size_t limit, LiteralStart& start) const {
+std::size_t LiteralReader::FindDelimiter(std::size_t from, std::size_t limit) const {
     const char delimiter = flavour_.STRDELIM[0];
     const std::string_view line = text_.substr(0, limit);
     std::size_t open = line.find(delimiter, from);
     if (flavour_.IsCPPSource)
         while (open != Nowhere && IsQuotedQuote(line, open, from))
             open = line.find(delimiter, open + 1);
-    if (open == Nowhere) return false;
-    start = Quoted(open, limit);
-    start.begin = JoinedBefore(start, from, limit);
-    return true;
+    return open;
 }
 
-std::size_t LiteralReader::JoinedBefore(const LiteralStart& start, std::size_t from, std::size_t limit) const {
-    std::string ignored;
-    if (flavour_.IsCPPSource) {
-        const std::string_view word = WordBefore(text_, start.open, from);
-        const std::size_t begin = start.open - (IsPrefix(word) ? word.size() : 0);
-        std::size_t wrapper = WrapperBefore(begin, from);
-        const std::size_t wrapperBegin = wrapper;
-        return wrapper != Nowhere && ReadWrapper(wrapper, limit, ignored) ? wrapperBegin : begin;
+void LiteralReader::JoinBefore(LiteralStart& start, std::size_t from, std::size_t limit) const {
+    if (!flavour_.IsCPPSource) {
+        start.begin = CodesBefore(start.open, from, limit);
+        return;
     }
-    std::size_t begin = start.open;
+    const std::string_view word = WordBefore(text_, start.open, from);
+    if (IsPrefix(word)) start.begin = start.open - word.size();
+    const std::size_t wrapper = WrapperBefore(start.begin, from);
+    if (wrapper == Nowhere) return;
+    std::size_t end = wrapper;
+    std::string ignored;
+    if (ReadWrapper(end, limit, ignored)) start.begin = wrapper;
+}
+
+std::size_t LiteralReader::CodesBefore(std::size_t begin, std::size_t from, std::size_t limit) const {
+    std::string ignored;
     for (;;) {
-        // The longest code, "#$FF", is four characters; what is read must reach exactly to what is joined already.
+        // The longest code, "#$FF", is four characters; what is read must reach exactly to what is joined
+        // already.
         std::size_t code = begin;
         do {
             if (code == from || begin - code == 4) return begin;
@@ -279,6 +290,8 @@ bool IsStringTerminated(std::string_view text, const SourceFlavour& flavour) {
     return end != Nowhere && end < text.find(flavour.COMMENTSTART);
 }
 
-int CountChar(std::string_view text, char ch) { return static_cast<int>(std::count(text.begin(), text.end(), ch)); }
+int CountChar(std::string_view text, char ch) {
+    return static_cast<int>(std::count(text.begin(), text.end(), ch));
+}
 
 } // namespace glotta

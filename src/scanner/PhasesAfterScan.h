@@ -1,5 +1,5 @@
-// What follows a scan before the review: found literals take the identifiers that stand for their texts already.
-// The cost grows with the number of strings.
+// What follows a scan before the review: found literals take the identifiers that stand for their texts
+// already. The cost grows with the number of strings.
 #pragma once
 #include "scanner/FoundStrings.h"
 #include "scanner/SourceFlavour.h"
@@ -22,11 +22,13 @@ struct ReplacementContext {
     const SettingsValues& settings;
 };
 
-// "Verifying found strings...": a literal whose text the component holds takes the identifier of the last such string.
+// "Verifying found strings...": a literal whose text the component holds takes the identifier of the last
+// such string.
 void VerifyFound(TgxFoundSourceStrings& found, const std::vector<ComponentString>& strings,
                  const ReplacementContext& context);
 
-// "Checking duplicates...": literals that are written alike share the first one's identifier. Each keeps its own tail.
+// "Checking duplicates...": literals that are written alike share the first one's identifier. Each keeps its
+// own tail.
 void ShareDuplicates(TgxFoundSourceStrings& found, const ReplacementContext& context);
 
 } // namespace glotta

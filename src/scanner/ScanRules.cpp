@@ -2,7 +2,8 @@
 
 namespace glotta {
 
-ScanRules::ScanRules(const SettingsValues& settings, const HelperLibrary& helper) : settings_(settings), helper_(helper) {
+ScanRules::ScanRules(const SettingsValues& settings, const HelperLibrary& helper)
+    : settings_(settings), helper_(helper) {
     for (const std::string& phrase : settings_.SkipLines)
         if (!phrase.empty()) skipLines_.push_back(UpperCase(phrase));
     for (std::size_t pos = 0; pos < settings_.ExcludeChars.size();) {

@@ -46,7 +46,11 @@ const SourceFlavour& FlavourOf(std::string_view fileName) {
     return extension == ".cpp" || extension == ".h" || extension == ".c" ? CppFlavour : PascalFlavour;
 }
 
-void SetSourceFlavour(std::string_view fileName) { current = &FlavourOf(fileName); }
-const SourceFlavour& CurrentFlavour() { return *current; }
+void SetSourceFlavour(std::string_view fileName) {
+    current = &FlavourOf(fileName);
+}
+const SourceFlavour& CurrentFlavour() {
+    return *current;
+}
 
 } // namespace glotta

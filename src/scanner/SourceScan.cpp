@@ -17,7 +17,8 @@ namespace {
 constexpr auto Nowhere = std::string_view::npos;
 
 struct Line {
-    std::size_t begin, end; // without its end; a selection may start inside it
+    std::size_t start;      // of the line
+    std::size_t begin, end; // of what is scanned, without the line's end; a selection may begin inside a line
     int number;             // 0-based
 };
 
@@ -27,11 +28,13 @@ public:
     ScanOutput Run();
 
 private:
+    std::size_t LineStart(std::size_t pos) const;
     void ScanLine(const Line& line);
-    bool FindValidDelimitor(std::size_t from, const Line& line, LiteralStart& start);
+    bool FindValidDelimitor(std::size_t from, const Line& line, std::size_t& delimiter);
     bool AllowsConstants(const Line& line);
-    std::size_t TakeLiteral(const LiteralStart& start, const Line& line);
-    void TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment, const Line& line);
+    std::size_t TakeLiteral(std::size_t delimiter, std::size_t from, const Line& line);
+    void TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment,
+                        const Line& line);
     bool IsLocalized(const LiteralStart& start) const;
     void AddFound(const LiteralStart& start, LiteralExpression expression, const Line& line);
     void SkipString(std::string_view text, std::size_t place, TStringSkipReason reason, const Line& line);
@@ -42,13 +45,16 @@ private:
     const ScanRules& rules_;
     const std::string_view text_;
     const SourceFlavour& flavour_;
-    const LiteralReader reader_;
+    const LiteralReader reader_, commentReader_;
     CharPlaces places_;
     CommentPlaces comments_;
     StringIdentifiers ids_;
     ContinuedLiteral continued_;
-    std::size_t consumed_ = 0; // a constant's expression may end in a later line
-    bool joined_ = false;      // the last line's constant goes on in the next
+    bool lineChecked_ = false;        // the rules for the whole line were asked
+    std::size_t lineChars_ = Nowhere; // characters before the line; npos: not counted yet
+    std::size_t lastOpen_ = Nowhere;  // the line's last literal that is a constant's
+    std::size_t consumed_ = 0;        // a constant's expression may end in a later line
+    bool joined_ = false;             // the last line's constant goes on in the next
     std::unique_ptr<CallPlaces> calls_;
     std::unique_ptr<ConstDeclarations> constants_;
     std::optional<std::vector<ByteRange>> openComments_; // without a comment test
@@ -57,7 +63,8 @@ private:
 
 Scan::Scan(const ScanInput& input, const ScanRules& rules)
     : input_(input), rules_(rules), text_(input.text), flavour_(*input.flavour), reader_(text_, flavour_),
-      places_(text_), comments_(text_, flavour_.IsCPPSource, rules.Helper(), places_),
+      commentReader_(text_, flavour_, LiteralReader::Place::Comment), places_(text_),
+      comments_(text_, flavour_.IsCPPSource, rules.Helper(), places_),
       ids_(rules.Settings(), input.idsInUse) {}
 
 ScanOutput Scan::Run() {
@@ -67,7 +74,8 @@ ScanOutput Scan::Run() {
         constants_ = std::make_unique<ConstDeclarations>(text_, calls_->ConstSections());
     }
     const std::size_t end = std::min(input_.end, text_.size());
-    std::size_t pos = std::min(input_.begin, end);
+    const std::size_t first = std::min(input_.begin, end);
+    std::size_t pos = first;
     LineWalk walk(flavour_);
     walk.StartBelow(text_.substr(0, pos));
     int number = CountChar(text_.substr(0, pos), '\n');
@@ -75,7 +83,7 @@ ScanOutput Scan::Run() {
     std::size_t nextDelimiter = text_.find(delimiter, pos);
     for (; pos < end; ++number) {
         const std::size_t feed = std::min(text_.find('\n', pos), end);
-        Line line{pos, feed, number};
+        Line line{pos == first ? LineStart(first) : pos, pos, feed, number};
         while (line.end > line.begin && text_[line.end - 1] == '\r')
             --line.end;
         if (nextDelimiter < pos) nextDelimiter = text_.find(delimiter, pos);
@@ -90,12 +98,21 @@ ScanOutput Scan::Run() {
     return std::move(output_);
 }
 
+std::size_t Scan::LineStart(std::size_t pos) const {
+    return pos == 0 ? 0 : text_.rfind('\n', pos - 1) + 1;
+}
+
 void Scan::ScanLine(const Line& line) {
     if (constants_ && !AllowsConstants(line)) return;
+    lineChecked_ = false;
+    lineChars_ = lastOpen_ = Nowhere;
     std::size_t from = continued_.Skip(text_, std::max(line.begin, consumed_), line.end);
-    LiteralStart start;
-    while (from < line.end && FindValidDelimitor(from, line, start))
-        from = TakeLiteral(start, line);
+    std::size_t delimiter = 0;
+    while (from < line.end && FindValidDelimitor(from, line, delimiter))
+        from = TakeLiteral(delimiter, from, line);
+    if (lastOpen_ == Nowhere) return;
+    const std::size_t end = from <= line.end ? line.end : std::min(text_.find("\r\n", from), text_.size());
+    joined_ = !IsStringTerminated(text_.substr(lastOpen_, end - lastOpen_), flavour_);
 }
 
 // Whether the line's literals can be constants: it holds a "=", or goes on with a declaration that does.
@@ -108,17 +125,20 @@ bool Scan::AllowsConstants(const Line& line) {
     return goesOn || text.find('=') != Nowhere;
 }
 
-bool Scan::FindValidDelimitor(std::size_t from, const Line& line, LiteralStart& start) {
-    if (!reader_.Find(from, line.end, start)) return false;
-    const std::string_view before = text_.substr(from, start.open - from);
+bool Scan::FindValidDelimitor(std::size_t from, const Line& line, std::size_t& delimiter) {
+    delimiter = reader_.FindDelimiter(from, line.end);
+    if (delimiter == Nowhere) return false;
+    const std::string_view before = text_.substr(from, delimiter - from);
     if (before.find("//") != Nowhere) return false;
     const std::string_view rest = text_.substr(from, line.end - from);
-    if (ContainsMarker(rest, flavour_.IGNORELINE) || before.find(flavour_.STARTIGNORE) != Nowhere) {
+    // What the line does not hold its rest does not either.
+    const bool first = !std::exchange(lineChecked_, true);
+    if ((first && ContainsMarker(rest, flavour_.IGNORELINE)) ||
+        before.find(flavour_.STARTIGNORE) != Nowhere) {
         SkipString(rest, from, ssByIgnoreTag, line);
         return false;
     }
-    // What the line does not hold its rest does not either.
-    if (from == line.begin && rules_.SkipsLine(rest)) {
+    if (first && rules_.SkipsLine(rest)) {
         SkipString(rest, from, ssrByLine, line);
         return false;
     }
@@ -126,9 +146,12 @@ bool Scan::FindValidDelimitor(std::size_t from, const Line& line, LiteralStart& 
 }
 
 // Returns where the search goes on.
-std::size_t Scan::TakeLiteral(const LiteralStart& start, const Line& line) {
-    const bool inComment = comments_.At(start.open);
-    if (inComment && (start.close == Nowhere || !comments_.InOne(start.open, start.close))) return start.open + 1;
+std::size_t Scan::TakeLiteral(std::size_t delimiter, std::size_t from, const Line& line) {
+    const bool inComment = comments_.At(delimiter);
+    const LiteralReader& reader = inComment ? commentReader_ : reader_;
+    LiteralStart start = reader.Quoted(delimiter, line.end);
+    if (inComment && (start.close == Nowhere || !comments_.InOne(start.open, start.close)))
+        return start.open + 1;
     if (start.close == Nowhere) {
         continued_.Begin(text_, start, line.end);
         return line.end;
@@ -138,18 +161,20 @@ std::size_t Scan::TakeLiteral(const LiteralStart& start, const Line& line) {
     const std::string_view content = text_.substr(start.contentBegin, start.contentEnd - start.contentBegin);
     if (static_cast<long long>(CharCount(content)) <= rules_.Settings().IgnorableLength) return start.close;
 
-    LiteralExpression expression = reader_.Decode(start.begin, constant ? constant->end + 1 : line.end);
-    const std::size_t end = expression.end;
+    reader.JoinBefore(start, from, line.end);
+    const std::size_t limit = constant ? std::min(constant->end + 1, text_.size()) : line.end;
+    LiteralExpression expression = reader.Decode(start.begin, limit);
+    const std::size_t end = std::max(expression.end, start.close);
     if (constant) {
-        const std::size_t lineEnd = std::max(line.end, std::min(text_.find("\r\n", end), text_.size()));
-        joined_ = !IsStringTerminated(text_.substr(start.open, lineEnd - start.open), flavour_);
+        lastOpen_ = start.open;
         consumed_ = end;
     }
     if (!IsLocalized(start)) TakeExpression(start, std::move(expression), inComment, line);
     return end;
 }
 
-void Scan::TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment, const Line& line) {
+void Scan::TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment,
+                          const Line& line) {
     const TStringSkipReason reason = rules_.IsExcludeString(expression.value, inComment);
     if (reason == ssrNone)
         AddFound(start, std::move(expression), line);
@@ -161,7 +186,8 @@ void Scan::TakeExpression(const LiteralStart& start, LiteralExpression expressio
 bool Scan::IsLocalized(const LiteralStart& start) const {
     if (start.open == 0 || text_[start.open - 1] != '(') return false;
     return std::any_of(TextGetterNames.begin(), TextGetterNames.end(), [&](std::string_view method) {
-        return start.open >= method.size() && SameText(text_.substr(start.open - method.size(), method.size()), method);
+        return start.open >= method.size() &&
+               SameText(text_.substr(start.open - method.size(), method.size()), method);
     });
 }
 
@@ -176,8 +202,8 @@ void Scan::AddFound(const LiteralStart& start, LiteralExpression expression, con
     found.Value = std::move(expression.value);
     found.Position = places_.Before(found.Begin) + 1;
     found.Line = line.number;
-    const std::size_t lineBegin = found.Begin == 0 ? 0 : text_.rfind('\n', found.Begin - 1) + 1;
-    found.Column = static_cast<int>(CharCount(text_.substr(lineBegin, found.Begin - lineBegin)));
+    if (lineChars_ == Nowhere) lineChars_ = places_.Before(line.start);
+    found.Column = static_cast<int>(found.Position - 1 - lineChars_);
     found.Note = WhyNoCall(found.Begin, found.End);
     if (constants_) {
         found.Constant = constants_->At(start.open)->name;
@@ -212,13 +238,16 @@ bool Scan::InOpenBlockComment(std::size_t place) {
             return !text_.substr(comment.begin).starts_with(flavour_.COMMENTSTART);
         });
     }
-    const auto next = std::upper_bound(openComments_->begin(), openComments_->end(), place,
-                                       [](std::size_t at, const ByteRange& comment) { return at < comment.begin; });
+    const auto next =
+        std::upper_bound(openComments_->begin(), openComments_->end(), place,
+                         [](std::size_t at, const ByteRange& comment) { return at < comment.begin; });
     return next != openComments_->begin() && place < std::prev(next)->end;
 }
 
 } // namespace
 
-ScanOutput ScanSource(const ScanInput& input, const ScanRules& rules) { return Scan(input, rules).Run(); }
+ScanOutput ScanSource(const ScanInput& input, const ScanRules& rules) {
+    return Scan(input, rules).Run();
+}
 
 } // namespace glotta

@@ -21,7 +21,8 @@ public:
     const SettingsValues& Settings() const { return settings_; }
     const HelperLibrary& Helper() const { return helper_; }
 
-    // The rules for one decoded literal. `a` and `b` are its place for the comment test, 0-based; -1 and 0: not known.
+    // The rules for one decoded literal. `a` and `b` are its place for the comment test, 0-based; -1 and 0:
+    // not known.
     TStringSkipReason IsExcludeString(std::string_view value, int a, int b, bool isCpp) const;
     // The same when the comment test was made already.
     TStringSkipReason IsExcludeString(std::string_view value, bool inComment) const;
@@ -41,10 +42,10 @@ private:
 };
 
 struct ScanInput {
-    std::string_view text;        // the whole buffer, CR LF line ends
+    std::string_view text; // the whole buffer, CR LF line ends
     const SourceFlavour* flavour = &PascalFlavour;
     bool constMode = false;
-    std::string component;        // the component reference as the replacement names it
+    std::string component;             // the component reference as the replacement names it
     std::vector<std::string> idsInUse; // of the component
     // The part to scan, in bytes of text: a selection. Positions refer to the whole text all the same.
     std::size_t begin = 0, end = std::string_view::npos;

@@ -15,7 +15,7 @@ class StringIdentifiers {
 public:
     StringIdentifiers(const SettingsValues& settings, const std::vector<std::string>& inUse);
 
-    std::string ForCode(); // "IDS_0", "IDS_1" ...
+    std::string ForCode();                          // "IDS_0", "IDS_1" ...
     std::string ForConstant(std::string_view name); // "strCaption"; "strCaption_1" when that is taken
 
 private:

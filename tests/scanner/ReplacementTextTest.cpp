@@ -15,9 +15,17 @@ TEST(ReplacementText, WritesTheCall) {
         bool noComments;
         const char* expected;
     } const cases[] = {
-        {{"glotta1", "IDS_0", "Hello world"}, PascalFlavour, 0, false, "glotta1.GetText('IDS_0' (* 'Hello world' *) )"},
+        {{"glotta1", "IDS_0", "Hello world"},
+         PascalFlavour,
+         0,
+         false,
+         "glotta1.GetText('IDS_0' (* 'Hello world' *) )"},
         {{"glotta1", "IDS_0", "Hello"}, PascalFlavour, 0, true, "glotta1.GetText('IDS_0')"},
-        {{"glotta1", "IDS_0", "Hello", Tail::Concatenation}, CppFlavour, 0, true, "glotta1->GetText(\"IDS_0\") + "},
+        {{"glotta1", "IDS_0", "Hello", Tail::Concatenation},
+         CppFlavour,
+         0,
+         true,
+         "glotta1->GetText(\"IDS_0\") + "},
         {{"F.g", "A", "Hello", Tail::Statement}, PascalFlavour, 5, false, "F.g.GetText('A' (* 'Hello' *) );"},
         {{"g", "A", "Hello world"}, CppFlavour, 5, false, "g->GetText(\"A\" /* \"Hello...\" */ )"},
         {{"g", "A", "Grüße!"}, PascalFlavour, 3, false, "g.GetText('A' (* 'Grü...' *) )"},
@@ -35,7 +43,8 @@ TEST(ReplacementText, WritesTheCall) {
 }
 
 TEST(ReplacementText, WritesNoCommentInsideAnOpenOne) {
-    const ScanOutput output = RunScan({"", "(* It\n 'ab'\n*) { It\n 'cd'\n} A('ef');", "", &PascalFlavour, false, false});
+    const ScanOutput output =
+        RunScan({"", "(* It\n 'ab'\n*) { It\n 'cd'\n} A('ef');", "", &PascalFlavour, false, false});
     std::string all;
     for (std::size_t i = 0; i < output.found.Count(); ++i)
         all += output.found[i].Replacement + '\n';
@@ -74,8 +83,8 @@ TEST(LiteralReader, TellsTerminatedExpressions) {
         const char* text;
         bool expected;
     } const cases[] = {
-        {"'ab';", true}, {"'ab' +", false}, {"", true}, {"'ab'; (* x *)", true}, {"'ab' (* x; *)", false},
-        {"'ab' + // x;", true}, {"'a;b'", false}, {"'ab' + { x; }", true},
+        {"'ab';", true},          {"'ab' +", false},      {"", true},       {"'ab'; (* x *)", true},
+        {"'ab' (* x; *)", false}, {"'ab' + // x;", true}, {"'a;b'", false}, {"'ab' + { x; }", true},
     };
     for (const auto& testCase : cases)
         EXPECT_EQ(IsStringTerminated(testCase.text, PascalFlavour), testCase.expected) << testCase.text;

@@ -21,15 +21,23 @@ inline std::string Visible(const std::string& text) {
     std::string result;
     for (const char c : text)
         switch (c) {
-        case '\r': result += "\\r"; break;
-        case '\n': result += "\\n"; break;
-        case '\t': result += "\\t"; break;
-        default: result += c;
+        case '\r':
+            result += "\\r";
+            break;
+        case '\n':
+            result += "\\n";
+            break;
+        case '\t':
+            result += "\\t";
+            break;
+        default:
+            result += c;
         }
     return result;
 }
 
-// "1:5 IDS_0 'Hello' ; = Hello" for a found literal: line and column from 1, identifier, source, what follows it, value.
+// "1:5 IDS_0 'Hello' ; = Hello" for a found literal: line and column from 1, identifier, source, what follows
+// it, value.
 inline std::string Listing(const ScanOutput& output) {
     static constexpr const char* Tails[] = {"", " +", " ;"};
     std::string result;
@@ -40,8 +48,8 @@ inline std::string Listing(const ScanOutput& output) {
                   (row.Note == "cuts a token" ? " (cuts a token)" : "") + '\n';
     }
     for (const TgxSkippedString& skipped : output.skipped)
-        result += std::to_string(skipped.SourcePos + skipped.ConstPos) + ' ' + SkipReasonName(skipped.Reason) + ' ' +
-                  Visible(skipped.Text) + '\n';
+        result += std::to_string(skipped.SourcePos + skipped.ConstPos) + ' ' +
+                  SkipReasonName(skipped.Reason) + ' ' + Visible(skipped.Text) + '\n';
     return result;
 }
 
