@@ -109,7 +109,7 @@ enum Seen : std::uint16_t {
 enum Before : char { Nothing = 0, AWord = 'a', ANumber = '0', ALiteral = '"', Comparison = 'c' };
 
 struct State {
-    std::uint32_t parent = 0;
+    std::uint32_t parent = 0, level = 0;
     std::uint32_t angles = 0; // open ones behind "template"
     Frame frame = Frame::Scope;
     Reason base = Reason::FileScope; // for a literal directly in this frame
@@ -202,6 +202,7 @@ private:
         inner.frame = frame;
         inner.base = base;
         inner.inFunction = inFunction;
+        inner.level = s_.level;
         nesting_.Push(s_, inner);
         s_ = inner;
     }

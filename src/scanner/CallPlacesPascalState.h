@@ -131,7 +131,7 @@ enum class Section : std::uint8_t {
 enum Before : char { Nothing = 0, AWord = 'a', ANumber = '0', ALiteral = '\'', DotDot = 'r', Assign = '!' };
 
 struct State {
-    std::uint32_t parent = 0;
+    std::uint32_t parent = 0, level = 0;
     std::uint32_t depth = 0;          // of parentheses and brackets in this frame
     std::uint32_t attributeDepth = 0; // of the bracket that opened an attribute
     std::uint32_t firstLabel = 0;     // Case: the first place that may belong to a label

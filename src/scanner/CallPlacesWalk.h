@@ -58,13 +58,18 @@ struct Walked {
 Walked WalkPascal(std::string_view text);
 Walked WalkCpp(std::string_view text);
 
-// Nesting and conditional branches of a walk. State has a member `std::uint32_t parent = 0`; frames are never
+// Nesting and conditional branches of a walk. State has the members `parent` and `level`, 0 at first; frames are never
 // changed once pushed, so that a branch can be resumed at the cost of one copy, however deep the nesting.
 template <class State> class Nesting {
 public:
     void Push(const State& outer, State& inner) {
+        if (outer.level == deepest) {
+            inner.parent = outer.parent;
+            return;
+        }
         frames_.push_back(outer);
         inner.parent = static_cast<std::uint32_t>(frames_.size());
+        inner.level = outer.level + 1;
     }
     bool Pop(State& state) {
         if (!state.parent) return false;
@@ -82,6 +87,9 @@ public:
     }
 
 private:
+    // No source nests so deep; it bounds what resuming and leaving frames again and again can cost.
+    static constexpr std::uint32_t deepest = 1000;
+
     std::vector<State> frames_, branches_;
 };
 
