@@ -1,6 +1,7 @@
 #include "runtime/CollectTexts.h"
 
 #include "runtime/Exclusions.h"
+#include "runtime/ViewItems.h"
 
 #include <unordered_set>
 
@@ -107,6 +108,26 @@ const Names& NotUserText() {
                                 "Mappings",
                                 "CustomColors",
                                 "IndexFiles",
+                                "SectionName",
+                                "PasswordChar",
+                                "IniFile",
+                                "CaretChar",
+                                "CRLF",
+                                "TabStops",
+                                "Extension",
+                                "PropertyToValidate",
+                                "PluginID",
+                                "CheckChars",
+                                "MasterField",
+                                "DetailField",
+                                "ItemField",
+                                "LookupDisplay",
+                                "CsvFieldDef",
+                                "Database",
+                                "TempTable",
+                                "DefaultSection",
+                                "PathToSource",
+                                "FontName",
                                 "PrioritySchedule"};
     return names;
 }
@@ -140,7 +161,9 @@ std::string ScalarText(const FormValue& value) {
 
 class Collector {
 public:
-    explicit Collector(const TComponent& localization) : exclusions_(localization) {}
+    explicit Collector(const TComponent& localization)
+        : exclusions_(localization), form_(localization.Tree().File()),
+          viewItems_(localization.InheritsFrom("TGlottaTLV")) {}
 
     void Component(const TComponent& component, const std::string& prefix) {
         const bool localization =
@@ -148,6 +171,7 @@ public:
         if (component.Name().empty() || localization) return;
         if (exclusions_.ComponentExcluded(component.Name(), component.ClassName())) return;
         component_ = &component;
+        dataSet_ = component.InheritsFrom("TDataSet");
         dialog_ = component.InheritsFrom("TCommonDialog") || EndsWithText(component.ClassName(), "Dialog");
         const std::string id = prefix + component.Name();
         for (const FormProperty& property : component.Node().properties)
@@ -167,12 +191,15 @@ private:
             return Add(stLocales, prefix + property.name, ScalarText(property.value));
         switch (property.value.kind) {
         case FormValueKind::String:
-            if (!NotUserText().contains(LastPart(path)))
+            if (IsUserText(LastPart(path)))
                 Add(inItem ? stCollections : KindOf(path, property.value.text), prefix + property.name,
                     property.value.text);
             break;
         case FormValueKind::List:
             Lines(property, prefix, inItem);
+            break;
+        case FormValueKind::Binary:
+            ViewItems(property, prefix);
             break;
         case FormValueKind::Collection:
             Items(property, prefix);
@@ -180,6 +207,11 @@ private:
         default:
             break;
         }
+    }
+
+    // A data set's filter is an expression, a dialog's is text.
+    bool IsUserText(std::string_view name) const {
+        return !NotUserText().contains(name) && !(dataSet_ && SameText(name, "Filter"));
     }
 
     void Lines(const FormProperty& property, const std::string& prefix, bool inItem) {
@@ -198,6 +230,17 @@ private:
         }
     }
 
+    // Only TGlottaTLV serves these.
+    void ViewItems(const FormProperty& property, const std::string& prefix) {
+        if (!viewItems_ || !SameText(property.name, "Items.Data")) return;
+        const auto texts = component_->InheritsFrom("TCustomListView")   ? &ListViewItemTexts
+                           : component_->InheritsFrom("TCustomTreeView") ? &TreeViewItemTexts
+                                                                         : nullptr;
+        if (!texts) return;
+        for (ViewItemText& item : texts(BinaryBytes(property.value, form_.IsBinary()), form_.CodePage()))
+            Add(stListView_TreeView_Items, prefix + "Items" + item.place, std::move(item.text));
+    }
+
     TStringsType KindOf(std::string_view path, std::string_view text) const {
         const std::string_view name = LastPart(path);
         if (dialog_) return stDlgsCaptions;
@@ -213,8 +256,10 @@ private:
     }
 
     Exclusions exclusions_;
+    const FormFile& form_;
+    bool viewItems_;
     const TComponent* component_ = nullptr;
-    bool dialog_ = false;
+    bool dialog_ = false, dataSet_ = false;
     std::vector<FormText> texts_;
 };
 

@@ -54,7 +54,8 @@ public:
             pos_ = 3;
             const std::size_t name = bytes_.find('\0', pos_);
             if (name == std::string_view::npos) Fail("the resource header has no end");
-            pos_ = name + 3;
+            pos_ = name + 1;
+            Bytes(2); // flags
             size = Number<std::uint32_t>();
             if (size > bytes_.size() - pos_) Fail("the file is shorter than its header says" + Suspicion());
             size += pos_;

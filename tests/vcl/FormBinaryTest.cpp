@@ -109,6 +109,7 @@ TEST(FormBinary, DamageIsNamedWithItsOffset) {
         {std::string("\xFF\x0A\0A\0\x30\x10\x50\0\0\0TPF0", 15),
          "11: the file is shorter than its header says"},
         {std::string("\xFF\x0A\0A\0\x30\x10\x04\0\0\0TPF1", 15), "11: 'TPF0' expected"},
+        {std::string("\xFF\x0A\0A\0\x30", 6), "5: the file ends too early"},
         {"TPF0", "4: the file ends too early"},
         {"TPF0" + Bytes("'TForm1' 'Form1' 'X' 1F"), "19: unknown value type 31"},
         {"TPF0" + Bytes("'TForm1' 'Form1' 'X' 0C FF FF FF FF 00 00"), "24: the file ends too early"},
