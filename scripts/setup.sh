@@ -4,6 +4,9 @@
 packages=(g++ cmake ninja-build ccache mold pkg-config libpcre2-dev libpugixml-dev libcli11-dev nlohmann-json3-dev
           libdtl-dev libgtest-dev)
 
+# What the desktop host needs on top.
+desktop_packages=(qt6-base-dev libqscintilla2-qt6-dev)
+
 say() { printf '%s\n' "$*" >&2; }
 
 install_missing() {
