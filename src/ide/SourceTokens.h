@@ -14,7 +14,8 @@ enum class TokenKind : std::uint8_t {
                 // raw strings included; each quoted literal is its own token
     Character,  // C/C++ only
     Symbol,     // one operator or punctuator, longest match (":=", "->")
-    Directive,  // Pascal {$...} and (*$...*); C/C++: a whole # line with its continuations
+    Directive,  // Pascal {$...} and (*$...*); C/C++: a # line with its continuations, in pieces
+                // where comments stand in it
     Comment,    // only when asked for
     Asm,        // one line or piece of an assembler block
     Bad         // an unterminated string, a stray byte

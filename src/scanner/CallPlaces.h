@@ -9,7 +9,7 @@
 
 namespace glotta {
 
-// Built once per unit; asked for each literal expression in ascending order of place.
+// Built once per unit, for whose text it keeps a view; asked for each literal expression.
 class CallPlaces {
 public:
     CallPlaces(std::string_view text, bool isCpp);
