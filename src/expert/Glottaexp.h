@@ -4,12 +4,15 @@
 #include "mainwindow/MainWindow.h"
 #include "settings/ExpertSettings.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace glotta {
 
+class TgxAddInNotifier;
 class TgxModuleNotifier;
 class TGlottaProjectSettings;
 
@@ -64,9 +67,10 @@ public:
     // What the notifiers ask for.
     void FileNotification(TOTAFileNotification code, const std::string& fileName);
     void ProjectClosed();
+    // The entry that holds the notifier, else the one of the file.
     FormsListItem* EntryOf(const IOTAModuleNotifier& notifier, const std::string& fileName);
-    void EntryRenamed();
-    void Forget(const TgxModuleNotifier& notifier);
+    void EntryRenamed(); // a caption of the list changed
+    void Forget(const TgxModuleNotifier& notifier); // its module is gone
     const std::vector<std::shared_ptr<TgxModuleNotifier>>& ModuleNotifiers() const { return moduleNotifiers_; }
 
     void ShowAboutBox();
@@ -74,12 +78,16 @@ public:
 private:
     void RemoveMenuItem();
     void RunCommand(const std::function<void()>& command);
+    TMenuItem* EditorItem(INTAForm& form) const; // nil when the window has none
+    void ForEachEditWindow(const std::function<void(INTAForm&)>& act) const;
     void FileOpened(const std::string& fileName);
     void FileClosing(const std::string& fileName);
-    void AttachNotifiers();
+    void AddModuleNotifier(FormsListItem* entry, IOTAModule& module);
+    void AttachNotifiers(); // to the open modules of the list's entries
     void InitializeProjectSettings(const std::string& projectFileName);
     void DestroyProjectSettings();
-    IOTASourceEditor* CurrentProjectEditor(); // nil, after the message, when the project does not include its file
+    // False, after the message, when the active project does not include the current editor's file.
+    bool CurrentFileIsInProject();
     void CreateMainWindow();
 
     ExpertPorts ports_;
@@ -90,12 +98,13 @@ private:
     std::unique_ptr<TGlottaProjectSettings> projectSettings_;
     TMenuItem* menuItem_ = nullptr;
     std::vector<std::shared_ptr<TgxModuleNotifier>> moduleNotifiers_;
+    std::shared_ptr<TgxAddInNotifier> addInNotifier_;
     int notifierIndex_ = -1;
     unsigned char notifications_ = 0;
     std::unique_ptr<TfrmGlotta> window_, closedWindow_;
 };
 
-// Constructs the expert and registers it with the IDE.
-std::shared_ptr<TGlottaExpert> ExpRegister(ExpertPorts ports);
+// Constructs the expert and registers it with the IDE, which holds it until the package is unloaded.
+std::weak_ptr<TGlottaExpert> ExpRegister(ExpertPorts ports);
 
 } // namespace glotta

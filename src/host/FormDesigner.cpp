@@ -16,8 +16,10 @@ void PlainDesigner::RenameComponent(TComponent& component, const std::string& ne
     if (TComponent* other = Root().FindComponent(newName); other && other != &component)
         throw Error("a component named " + newName + " already exists");
     if (&component != &Root()) unit_.RenameField(Root().ClassName(), component.Name(), newName);
+    const std::string oldName = component.Name();
     component.SetName(newName);
     Modified();
+    if (onRenamed) onRenamed(component, oldName, newName);
 }
 
 } // namespace glotta

@@ -23,8 +23,10 @@ public:
     TComponent* SelectedComponent() override { return selected_; }
     void Modified() override { onModified_(); }
 
-    // Renames the component and its field.
+    // Renames the component and its field, then tells.
     void RenameComponent(TComponent& component, const std::string& newName);
+
+    std::function<void(TComponent&, const std::string& oldName, const std::string& newName)> onRenamed;
 
 private:
     ComponentTree& tree_;

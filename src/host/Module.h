@@ -1,6 +1,7 @@
 // An open unit with its header and its form.
 #pragma once
 #include "host/FormEditor.h"
+#include "host/Notifications.h"
 #include "host/OpenFiles.h"
 #include "ide/ToolsApi.h"
 
@@ -8,6 +9,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace glotta {
 
@@ -30,6 +33,12 @@ public:
     bool Modified() const override;
     bool Save(bool changeName, bool forceSave) override;
     bool Close() override { return host_.CloseModule(*this); }
+    int AddNotifier(std::shared_ptr<IOTAModuleNotifier> notifier) override {
+        return notifiers_.Add(std::move(notifier));
+    }
+    void RemoveNotifier(int index) override { notifiers_.Remove(index); }
+    // Tells that the module goes away.
+    void TellDestroyed() { notifiers_.Destroy(); }
 
     PlainSourceEditor& Source() { return source_.Editor(); }
     PlainSourceEditor* Header() { return header_ ? &header_->Editor() : nullptr; }
@@ -49,6 +58,7 @@ private:
     std::string formBytes_;
     std::unique_ptr<PlainFormEditor> form_;
     std::vector<IOTAEditor*> editors_;
+    Notifiers<IOTAModuleNotifier> notifiers_;
 };
 
 } // namespace glotta

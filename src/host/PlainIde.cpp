@@ -34,7 +34,9 @@ fs::path HeaderOf(const fs::path& unit) {
 PlainIde::PlainIde() {
     RegisterGlottaClasses();
 }
-PlainIde::~PlainIde() = default;
+PlainIde::~PlainIde() {
+    wizards_.UnloadAll();
+}
 
 // --- projects ---
 
@@ -51,8 +53,14 @@ IOTAModule& PlainIde::OpenProject(const std::string& fileName, std::optional<Enc
     if (IOTAModule* open = FindModule(PathText(file))) return *open;
     told_ = told;
     if (IsProjectGroupFile(file))
-        return Adopt(std::make_unique<PlainProjectGroup>(Host(), ReadProjectGroup(file)));
-    return Adopt(std::make_unique<PlainProject>(Host(), ReadProject(file)));
+        return OpenedProject(Adopt(std::make_unique<PlainProjectGroup>(Host(), ReadProjectGroup(file))));
+    return OpenedProject(Adopt(std::make_unique<PlainProject>(Host(), ReadProject(file))));
+}
+
+IOTAModule& PlainIde::OpenedProject(IOTAModule& project) {
+    notifications_.Tell(ofnFileOpened, project.FileName());
+    ActiveProjectChanged(project.FileName());
+    return project;
 }
 
 std::vector<PlainProject*> PlainIde::Projects() {
@@ -160,6 +168,8 @@ bool PlainIde::OpenFile(const std::string& fileName) {
             // A header is edited with the unit it belongs to.
             const fs::path unit = IsHeader(file) ? Beside(file, ".cpp") : fs::path();
             module = &OpenUnit(unit.empty() ? file : unit);
+            ShowModule(*module);
+            notifications_.Tell(ofnFileOpened, module->FileName());
         }
         ShowModule(*module);
         return true;
@@ -202,11 +212,14 @@ bool PlainIde::CloseModule(IOTAModule& module) {
         closing.push_back(entry.module.get());
     }
     for (IOTAModule* each : closing)
+        if (!notifications_.Tell(ofnFileClosing, each->FileName())) return false;
+    for (IOTAModule* each : closing)
         Forget(*each);
     return !closing.empty();
 }
 
 void PlainIde::Forget(IOTAModule& module) {
+    if (auto* unit = dynamic_cast<PlainModule*>(&module)) unit->TellDestroyed();
     std::erase(shown_, &module);
     std::erase_if(byFile_, [&](const auto& item) { return item.second == &module; });
     std::erase_if(modules_, [&](const Entry& entry) { return entry.module.get() == &module; });

@@ -1,7 +1,9 @@
 // The plain-file IDE: projects, units and forms opened from disk behind the tool interfaces.
 #pragma once
 #include "host/FileStore.h"
+#include "host/HostMenus.h"
 #include "host/Module.h"
+#include "host/Notifications.h"
 #include "host/OpenFiles.h"
 #include "host/ProjectModule.h"
 #include "ide/ToolsApi.h"
@@ -26,7 +28,9 @@ public:
     PlainIde(const PlainIde&) = delete;
     PlainIde& operator=(const PlainIde&) = delete;
 
-    BorlandIDEServices Services() { return {*this, *this}; }
+    BorlandIDEServices Services() { return {*this, *this, &notifications_, &menus_, &wizards_}; }
+    HostMenus& Menus() { return menus_; }
+    Wizards& PackageWizards() { return wizards_; }
 
     // Opens a project group or a project; `told` is the encoding of all its units where no byte order mark
     // tells another. Throws Error when the file cannot be read.
@@ -69,6 +73,9 @@ private:
     FileStore& Files() override { return files_; }
     void ShowModule(IOTAModule& module) override;
     bool CloseModule(IOTAModule& module) override;
+    void ActiveProjectChanged(const std::string& fileName) override {
+        notifications_.Tell(ofnActiveProjectChanged, fileName);
+    }
     std::optional<AncestorForm> FindAncestor(const IOTAModule& asking, const std::string& formClass) override;
     void AddProblem(std::string problem) override { problems_.push_back(std::move(problem)); }
     std::optional<Encoding> ToldEncoding() const override { return told_; }
@@ -77,6 +84,7 @@ private:
     // The project that lists the file, and its entry.
     std::pair<PlainProject*, const IOTAModuleInfo*> FindEntry(const std::filesystem::path& file);
     template <class Module> Module& Adopt(std::unique_ptr<Module> module);
+    IOTAModule& OpenedProject(IOTAModule& project);
     PlainModule& OpenUnit(const std::filesystem::path& file);
     std::string TextOf(const std::filesystem::path& file, std::optional<Encoding> hint);
     bool MayClose(const Entry& entry);
@@ -88,6 +96,9 @@ private:
     std::unordered_map<std::string, IOTAModule*> byFile_; // every file of every open module, by FileKey
     std::vector<IOTAModule*> shown_;                      // the one in front last
     std::vector<std::string> problems_;
+    HostMenus menus_;
+    Notifications notifications_;
+    Wizards wizards_; // first to go: they use all of the above
 };
 
 } // namespace glotta

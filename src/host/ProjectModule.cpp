@@ -121,7 +121,9 @@ PlainProject* PlainProjectGroup::GetProject(int index) {
 }
 
 void PlainProjectGroup::SetActiveProject(int index) {
-    if (index >= 0 && index < ProjectCount()) description_.activeIndex = index;
+    if (index < 0 || index >= ProjectCount() || index == description_.activeIndex) return;
+    description_.activeIndex = index;
+    if (IOTAProject* project = GetProject(index)) host_.ActiveProjectChanged(project->FileName());
 }
 
 std::vector<PlainProject*> PlainProjectGroup::LoadedProjects() const {

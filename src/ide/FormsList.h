@@ -2,6 +2,7 @@
 #pragma once
 #include "ide/ToolsApi.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct FormsListItem {
     int imageIndex = 0;          // 1: has a localization component
     bool selected = false;
     bool focused = false;
+    std::weak_ptr<IOTAModuleNotifier> data; // the entry's own notifier of its module
 };
 
 struct FormsList {

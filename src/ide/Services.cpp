@@ -6,7 +6,6 @@
 namespace glotta {
 namespace {
 
-constexpr int selectionMarker = 999;
 constexpr std::size_t pieceLength = 1024;
 
 template <class Editor> Editor* FirstEditor(IOTAModule* module) {
@@ -205,7 +204,7 @@ int IdeServices::GetLineByPos(std::string_view text, std::size_t position) {
 int IdeServices::Pos2Line4CurrentSource(std::size_t position, std::string_view text) {
     IOTASourceEditor* editor = GetCurrentSourceEditor();
     if (!editor) return -1;
-    if (modeMarker == selectionMarker) position += SelectionOf(*editor).begin;
+    if (modeMarker == SelectionMarker) position += SelectionOf(*editor).begin;
     return GetLineByPos(text, position);
 }
 

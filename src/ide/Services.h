@@ -45,7 +45,8 @@ public:
     static int GetLineByPos(std::string_view text, std::size_t position);
     int Pos2Line4CurrentSource(std::size_t position, std::string_view text);
 
-    // 999 while the text being scanned is the editor's selection, else 0.
+    // SelectionMarker while the text being scanned is the editor's selection, else 0.
+    static constexpr int SelectionMarker = 999;
     int modeMarker = 0;
     // Brought to the top when a form cannot be reached; nil while it is not open.
     TForm* mainWindow = nullptr;

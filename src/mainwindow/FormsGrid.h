@@ -5,6 +5,8 @@
 
 #include <functional>
 #include <string>
+#include <unordered_map>
+#include <utility>
 
 namespace glotta {
 
@@ -21,7 +23,12 @@ public:
     bool CanSort() const override { return true; }
     // A click on the header: the form decides the direction.
     void Sort(std::size_t column, bool descending) override;
+    Sorting SortedBy() const override { return sorting_; }
     std::function<void(std::size_t column)> OnColumnClick;
+    // A row that stands out, with the reason in its hint.
+    void SetNote(const std::string& fileName, std::string note) { notes_[fileName] = std::move(note); }
+    RowLook Look(std::size_t row) const override;
+    std::string Hint(std::size_t row) const override;
     // 1 for a form with a localization component, else 0.
     int ImageIndex(std::size_t row) const { return list_.items[row].imageIndex; }
 
@@ -38,6 +45,9 @@ public:
 
 private:
     FormsList& list_;
+    std::unordered_map<std::string, std::string> notes_; // by file name
+    Sorting sorting_;
+    bool loading_ = false; // from the list
 };
 
 // Below 0 when A stands before B in an ascending list. By "Languages" it is never 0.

@@ -21,14 +21,15 @@ struct MainCommand {
     std::string_view id;      // component name of the item
     std::string_view menu;    // captions of the menus that lead to it, joined by '>'; empty: in no menu
     std::string_view popup;   // the same in the popup menu: "." is its top level
-    std::string_view caption; // "-" before another item's row: a separator
-    std::string_view hint;    // "short|long"; a command with one may stand in the tool bar
+    std::string_view caption; // "-" is a separator
+    std::string_view hint;    // "short|long"
     int tag = Always;
     std::string_view shortcut = {};
     void (TfrmGlotta::*execute)() = nullptr; // nil: not there yet, and disabled
     bool button = false;                      // stands in the tool bar
     bool (TfrmGlotta::*ready)() const = nullptr; // what else it needs
     bool (TfrmGlotta::*checked)() const = nullptr;
+    std::string_view popupCaption = {}; // where it differs
 };
 
 std::span<const MainCommand> MainCommands();

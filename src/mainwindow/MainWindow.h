@@ -73,9 +73,12 @@ public:
     FormsGrid& ActiveList() { return pcForms() == 0 ? lvFormNames : lvExternalFiles; }
     const FormsGrid& ActiveList() const { return pcForms() == 0 ? lvFormNames : lvExternalFiles; }
 
-    // Fills the list from the active project and shows the window.
-    void OpenProject(IOTAProject& project);
+    // Fills the list from the active project, one row per module that has a form.
+    void FillFromProject(IOTAProject& project);
+    // Shows the filled window: opens all forms where that is wished, sorts, and selects the current editor's form.
+    void Open();
     void ClearProject(); // empties the list
+    void ShowFilled();   // after a command: rows, selection, status and enabled commands as they are now
     void FillProjectForms(std::vector<std::string>& list) const;
     void UpdateStatusBar();
     void CheckEnableActions();
@@ -100,7 +103,6 @@ public:
     void ViewSkipped1Click();
     void ViewForm1Click();
     void SelectAll1Click();
-    void Refresh1Click();
     void sbOptionsClick();
     void StayOnTop1Click();
     void Dockable1Click();
@@ -121,27 +123,38 @@ public:
     bool IsDockable() const { return Dockable(); }
 
 private:
-    enum class UnitScan { Source, Constants };
+    struct BoundItem {
+        TMenuItem* item;
+        const MainCommand* command;
+        bool isButton;
+    };
+    struct UnitChoice {
+        std::string unit, form;
+    };
     void BuildMenus();
-    void AddCommand(TMenuItem& parent, const MainCommand& command);
+    void AddCommand(TMenuItem& parent, const MainCommand& command, std::string_view itemCaption, bool isButton);
     void BuildWizardsMenu();
+    bool IsEnabled(const BoundItem& bound) const;
+    // Runs to its end, its message or its silence, and shows what it changed.
+    void Run(const std::function<void()>& command);
     void ScanForms(const std::function<void(ScanCommands&, FormsListItem&)>& scan);
-    void ScanUnit(UnitScan kind);
-    bool ChooseUnit(std::string& unit, std::string& form);
+    void ScanUnit(const std::function<void(ScanCommands&, const UnitChoice&)>& scan);
+    std::optional<UnitChoice> ChooseUnit();
+    std::vector<std::string> UnitsToScan();
     void OpenAllForms();
-    void ReadLanguages(FormsListItem& item);
+    // What the open form tells; false when the form is not open.
+    bool ReadOpenForm(FormsListItem& item);
     void SelectCurrentEditor();
     void SelectionChanged();
-    void AfterCommand();
     void LoadState();
     void SaveState();
     Ui& UiPort() const { return context_.ide.GetUi(); }
 
     MainWindowContext context_;
     FormTranslation translation_;
-    std::unique_ptr<ScanReplace> scan_;
     std::unique_ptr<TfrmSkippedStrings> skippedForm_;
     std::unique_ptr<AutomationObject> server_;
+    std::vector<BoundItem> bound_;
     std::string componentClass_;
     std::size_t unitCount_ = 0;
     bool destroying_ = false;

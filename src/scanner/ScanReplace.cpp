@@ -74,6 +74,7 @@ bool ScanReplace::DoScanReplace(const std::string& unitName, const std::string& 
     LocateUnit(job, unitName);
     LocateComponent(job, stringsForm);
     OpenUnit(job);
+    context_.results.source = job.text;
     if (job.text.empty())
         return false;
 

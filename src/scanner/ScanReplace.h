@@ -23,6 +23,7 @@ class RegistryStore;
 struct ScanResults {
     TgxFoundSourceStrings found;
     std::vector<TgxSkippedString> skipped;
+    std::string source; // the text that was scanned
 };
 
 struct ScanContext {

@@ -1,0 +1,83 @@
+#include "platform/Automation.h"
+
+#include "platform/Error.h"
+#include "platform/Files.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include <objbase.h>
+#include <oaidl.h>
+#include <system_error>
+#endif
+
+namespace glotta {
+namespace {
+
+#ifdef _WIN32
+
+// The calling thread may use COM for the object's life.
+struct ComApartment {
+    ComApartment() : entered(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+    ~ComApartment() {
+        if (entered)
+            CoUninitialize();
+    }
+    bool entered;
+};
+
+class ComObject : public AutomationObject {
+public:
+    explicit ComObject(IDispatch* object) : object_(object) {}
+    ~ComObject() override { object_->Release(); }
+
+private:
+    ComApartment apartment_;
+    IDispatch* object_;
+};
+
+class ComAutomation : public Automation {
+public:
+    std::string ClassIdOf(const std::string& progId) override {
+        CLSID id;
+        wchar_t text[64] = {};
+        if (FAILED(CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id)) || !StringFromGUID2(id, text, 64))
+            return {};
+        return PathText(std::filesystem::path(text));
+    }
+    std::unique_ptr<AutomationObject> CreateObject(const std::string& progId) override {
+        const ComApartment apartment;
+        CLSID id;
+        void* object = nullptr;
+        HRESULT result = CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id);
+        if (SUCCEEDED(result))
+            result = CoCreateInstance(id, nullptr, CLSCTX_SERVER, IID_IDispatch, &object);
+        if (FAILED(result))
+            throw Error(progId + ": " + std::system_category().message(int(result)));
+        return std::make_unique<ComObject>(static_cast<IDispatch*>(object));
+    }
+};
+
+#else
+
+class NoAutomation : public Automation {
+public:
+    std::string ClassIdOf(const std::string&) override { return {}; }
+    std::unique_ptr<AutomationObject> CreateObject(const std::string& progId) override {
+        throw Error("Unable to start " + progId + ": automation servers are available on Windows only.");
+    }
+};
+
+#endif
+
+} // namespace
+
+std::unique_ptr<Automation> SystemAutomation() {
+#ifdef _WIN32
+    return std::make_unique<ComAutomation>();
+#else
+    return std::make_unique<NoAutomation>();
+#endif
+}
+
+} // namespace glotta
