@@ -1,0 +1,44 @@
+// Shows menus that are data: in a menu bar, in a tool bar, as a context menu.
+#pragma once
+#include "vcl/Menu.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QPoint>
+
+#include <unordered_map>
+
+class QAction;
+class QMenu;
+class QWidget;
+
+namespace glotta {
+
+// Keeps the actions of a bar as the menu's items are. Changes are taken over together, when the program is idle.
+class MenuAdapter : public QObject {
+public:
+    // The bar is a QMenuBar or a QToolBar; both must outlive the adapter's use of them.
+    MenuAdapter(QWidget& bar, TMenu& menu);
+    ~MenuAdapter() override;
+
+    // Takes over now what changed.
+    void Refresh();
+    // The action that shows the item, nil when the item is new or gone.
+    QAction* ActionOf(const TMenuItem& item) const;
+
+private:
+    void Rebuild();
+    void FillMenu(QMenu& menu, TMenuItem& parent);
+    QAction* MakeAction(TMenuItem& item, QWidget& owner);
+    void Chosen(TMenuItem* item);
+    bool IsThere(const TMenuItem* item) const;
+
+    QWidget& bar_;
+    TMenu& menu_;
+    bool stale_ = true;
+    std::unordered_map<const TMenuItem*, QAction*> actions_;
+};
+
+// Opens a context menu and runs what is chosen in it.
+void PopUp(TPopupMenu& menu, QWidget& over, const QPoint& globalPosition);
+
+} // namespace glotta
