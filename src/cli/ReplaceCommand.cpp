@@ -58,7 +58,7 @@ private:
             targets.push_back(UnitTarget(unit));
         if (options_.all)
             AddAll(targets);
-        if (targets.empty())
+        if (targets.empty() && !options_.all)
             throw Error("nothing to localize: name forms (--form), units (--unit) or --all");
         return targets;
     }

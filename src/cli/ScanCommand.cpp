@@ -8,6 +8,8 @@
 #include "platform/Files.h"
 #include "runtime/CustomLang.h"
 #include "scanner/ReplacementText.h"
+#include "scanner/CallPlaces.h"
+#include "scanner/ConstRewrite.h"
 #include "scanner/PhasesAfterScan.h"
 #include "scanner/SourceScan.h"
 
@@ -20,7 +22,7 @@ namespace {
 
 // The localization component that a unit's calls would name.
 struct ComponentInForm {
-    std::string form, component;
+    std::string form, formClass, component;
     std::vector<ComponentString> texts;
 };
 
@@ -32,11 +34,13 @@ ComponentInForm ReadComponent(const UnitFile& unit) {
     if (unit.formFile.empty())
         return result;
     std::string bytes = ReadFile(unit.formFile);
+    FormHead head = FormFile::PeekHead(bytes, PathText(unit.formFile));
+    result.form = head.name;
+    result.formClass = head.className;
     if (!MayHoldComponent(bytes))
         return result;
     FormFile file = FormFile::Parse(bytes, PathText(unit.formFile), unit.codePage.value_or(1252));
     ComponentTree tree(file, {});
-    result.form = tree.Root().Name();
     for (TComponent* component : tree.Root().Components())
         if (auto* lang = dynamic_cast<TgxCustomLang*>(component)) {
             result.component = lang->Name();
@@ -45,6 +49,17 @@ ComponentInForm ReadComponent(const UnitFile& unit) {
             break;
         }
     return result;
+}
+
+// Why constants must be left alone, as far as the unit itself tells.
+void NoteConstants(std::string_view text, std::string_view formClass, TgxFoundSourceStrings& found) {
+    if (found.Count() == 0)
+        return;
+    CallPlaces places(text, false);
+    ConstRewrite rewrite(text, places, formClass);
+    for (std::size_t i = 0; i < found.Count(); ++i)
+        if (found[i].Note.empty())
+            found[i].Note = rewrite.WhyNotConst({found[i].Constant, found[i].Begin, found[i].End, found[i].Value});
 }
 
 struct UnitResult {
@@ -87,6 +102,9 @@ private:
         ReplacementContext replacements{input.component, *input.flavour, rules_.Settings()};
         VerifyFound(output.found, known.texts, replacements);
         ShareDuplicates(output.found, replacements);
+
+        if (options_.constMode)
+            NoteConstants(source.text, known.formClass, output.found);
 
         UnitReport report{unit.shown, input.flavour->IsCPPSource, output.found, output.skipped};
         result.text = options_.json ? JsonLine(report) : Table(report);

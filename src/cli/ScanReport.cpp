@@ -73,7 +73,7 @@ std::string Table(const UnitReport& report) {
         const TgxFoundSourceString& row = report.found[i];
         out += "  ";
         Append(out, std::to_string(row.Line + 1), 5);
-        Append(out, row.ID, 10);
+        Append(out, row.ID, 16);
         if (row.Note.empty()) {
             Append(out, OneLine(row.SourceText, 48), 50);
             out += OneLine(row.Replacement);
@@ -86,7 +86,7 @@ std::string Table(const UnitReport& report) {
     for (const TgxSkippedString& row : report.skipped) {
         out += "  ";
         Append(out, std::to_string(row.Line + 1), 5);
-        Append(out, "skipped", 10);
+        Append(out, "skipped", 16);
         Append(out, OneLine(Trim(row.Text), 48), 50);
         out += SkipReasonName(row.Reason);
         out += '\n';

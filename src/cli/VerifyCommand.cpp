@@ -21,7 +21,7 @@ int RunVerify(const GlobalOptions& global, const VerifyCommandOptions& options) 
     VerifyResult result = VerifyPaths(paths, verify);
     ui.SetProgress({});
     for (const VerifyFailure& failure : result.failures)
-        std::cout << failure.reason << "\n";
+        std::cout << failure.file << ": " << failure.reason << "\n";
     std::cout << result.units << " units and " << result.forms << " forms read, " << result.failures.size()
               << " would not come back identical\n";
     return result.failures.empty() ? 0 : 1;

@@ -32,6 +32,7 @@ private:
     void ScanLine(const Line& line);
     bool FindValidDelimitor(std::size_t from, const Line& line, std::size_t& delimiter);
     bool AllowsConstants(const Line& line);
+    bool InConstSection(const Line& line);
     std::size_t TakeLiteral(std::size_t delimiter, std::size_t from, const Line& line);
     void TakeExpression(const LiteralStart& start, LiteralExpression expression, bool inComment,
                         const Line& line);
@@ -54,6 +55,7 @@ private:
     std::size_t lineChars_ = Nowhere; // characters before the line; npos: not counted yet
     std::size_t lastOpen_ = Nowhere;  // the line's last literal that is a constant's
     std::size_t consumed_ = 0;        // a constant's expression may end in a later line
+    std::size_t section_ = 0;         // the constant section at or behind the line
     bool joined_ = false;             // the last line's constant goes on in the next
     std::unique_ptr<CallPlaces> calls_;
     std::unique_ptr<ConstDeclarations> constants_;
@@ -117,12 +119,20 @@ void Scan::ScanLine(const Line& line) {
 
 // Whether the line's literals can be constants: it holds a "=", or goes on with a declaration that does.
 bool Scan::AllowsConstants(const Line& line) {
+    if (!InConstSection(line)) return false;
     const std::string_view text = text_.substr(line.begin, line.end - line.begin);
     if (TrimRight(text).ends_with(LocalizedComment)) return false;
     const auto* declaration = constants_->At(line.begin);
     const bool goesOn = declaration && (joined_ || declaration->aggregate);
     joined_ = joined_ && declaration;
     return goesOn || text.find('=') != Nowhere;
+}
+
+bool Scan::InConstSection(const Line& line) {
+    const auto& sections = calls_->ConstSections();
+    while (section_ < sections.size() && sections[section_].end <= line.begin)
+        ++section_;
+    return section_ < sections.size() && sections[section_].begin < line.end;
 }
 
 bool Scan::FindValidDelimitor(std::size_t from, const Line& line, std::size_t& delimiter) {
