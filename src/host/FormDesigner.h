@@ -19,7 +19,10 @@ public:
     TComponent& Root() override { return tree_.Root(); }
     std::string CreateMethod(const std::string& name, const MethodType& type) override;
     void ShowMethod(const std::string& name) override { unit_.ShowMethod(Root().ClassName(), name); }
-    void SelectComponent(TComponent* component) override { selected_ = component; }
+    void SelectComponent(TComponent* component) override {
+        selected_ = component;
+        if (onSelected) onSelected();
+    }
     TComponent* SelectedComponent() override { return selected_; }
     void Modified() override { onModified_(); }
 
@@ -27,6 +30,7 @@ public:
     void RenameComponent(TComponent& component, const std::string& newName);
 
     std::function<void(TComponent&, const std::string& oldName, const std::string& newName)> onRenamed;
+    std::function<void()> onSelected; // the window's
 
 private:
     ComponentTree& tree_;

@@ -39,13 +39,18 @@ public:
     IOTAModule& Module() override { return module_; }
     IOTAComponent* GetRootComponent() override { return &rootHandle_; }
     TComponent& CreateComponent(const std::string& className) override;
-    void MarkModified() override { modified_ = true; }
+    void MarkModified() override {
+        modified_ = true;
+        if (OnView) OnView();
+    }
     PlainDesigner& Designer() override { return designer_; }
 
     ComponentTree& Tree() { return tree_; }
     // The form file's bytes. Throws Error when a text cannot be expressed.
     std::string Bytes();
     void MarkSaved() { modified_ = false; }
+
+    std::function<void()> OnView; // the window's: the form changed
 
 private:
     std::string FreeName(const std::string& className);

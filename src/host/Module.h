@@ -47,6 +47,8 @@ public:
     std::vector<FileChange> Changes() override;
     void MarkSaved(const std::vector<FileChange>& changes) override;
     std::vector<std::filesystem::path> Paths() const override;
+    std::vector<std::filesystem::path> ChangedOnDisk() const override;
+    void KeepOverDisk() override;
 
 private:
     void OpenForm(std::optional<Encoding> hint);

@@ -38,6 +38,10 @@ public:
     virtual void MarkSaved(const std::vector<FileChange>& changes) = 0;
     // All files that the module holds open.
     virtual std::vector<std::filesystem::path> Paths() const = 0;
+    // Those of them whose bytes on disk are no longer the ones read or saved.
+    virtual std::vector<std::filesystem::path> ChangedOnDisk() const { return {}; }
+    // What is open counts instead of what others wrote: saving replaces theirs.
+    virtual void KeepOverDisk() {}
 };
 
 // A source file of a module, with the bytes that it was opened or saved with.
@@ -50,6 +54,8 @@ public:
     PlainSourceEditor& Editor() { return editor_; }
     void AddChange(std::vector<FileChange>& changes) const;
     void MarkSaved(const std::vector<FileChange>& changes);
+    const std::string& Bytes() const { return bytes_; } // as opened or saved
+    void KeepOver(std::string diskBytes);
 
 private:
     std::filesystem::path file_;

@@ -75,13 +75,26 @@ private:
 
 // --- view ---
 
+void PlainEditView::SetCursorPos(EditPos position) {
+    cursor_ = Clamped(position);
+    Moved();
+}
+
 void PlainEditView::SetBlock(EditPos start, EditPos after) {
     blockStart_ = Clamped(std::min(start, after));
     blockAfter_ = Clamped(std::max(start, after));
+    Moved();
+}
+
+void PlainEditView::SetPlaces(EditPos cursor, EditPos blockStart, EditPos blockAfter) {
+    cursor_ = cursor;
+    blockStart_ = blockStart;
+    blockAfter_ = blockAfter;
 }
 
 void PlainEditView::Center(int line) {
     topLine_ = std::max(1, line - visibleLines_ / 2);
+    if (OnScroll) OnScroll();
 }
 
 void PlainEditView::SetWindow(int topLine, int visibleLines) {
@@ -124,23 +137,29 @@ std::unique_ptr<IOTAEditWriter> PlainSourceEditor::CreateUndoableWriter() {
     return std::make_unique<PlainEditWriter>(*this);
 }
 
-void PlainSourceEditor::Apply(std::vector<TextEdits> groups) {
+void PlainSourceEditor::Change(std::vector<TextEdits> groups, bool joined) {
     const auto places = view_.Take();
-    if (buffer_.Apply(std::move(groups))) view_.Follow(places);
+    if (joined ? buffer_.ApplyJoined(std::move(groups)) : buffer_.Apply(std::move(groups)))
+        TextChanged(places);
 }
 
 bool PlainSourceEditor::Undo() {
     const auto places = view_.Take();
     const bool done = buffer_.Undo();
-    if (done) view_.Follow(places);
+    if (done) TextChanged(places);
     return done;
 }
 
 bool PlainSourceEditor::Redo() {
     const auto places = view_.Take();
     const bool done = buffer_.Redo();
-    if (done) view_.Follow(places);
+    if (done) TextChanged(places);
     return done;
+}
+
+void PlainSourceEditor::TextChanged(const PlainEditView::Places& places) {
+    view_.Follow(places);
+    if (OnView) OnView();
 }
 
 } // namespace glotta

@@ -15,7 +15,7 @@ public:
     explicit PlainEditView(UnitBuffer& buffer) : buffer_(buffer) {}
 
     EditPos CursorPos() const override { return cursor_; }
-    void SetCursorPos(EditPos position) override { cursor_ = Clamped(position); }
+    void SetCursorPos(EditPos position) override;
     EditPos BlockStart() const override { return blockStart_; }
     EditPos BlockAfter() const override { return blockAfter_; }
     void SetBlock(EditPos start, EditPos after) override;
@@ -24,9 +24,17 @@ public:
 
     // Called by a window: how many lines it shows, and to which one it was scrolled.
     void SetWindow(int topLine, int visibleLines);
+    // Called by a window: the person moved the cursor or selected.
+    void SetPlaces(EditPos cursor, EditPos blockStart, EditPos blockAfter);
+
+    // The window's: cursor or block were moved; the view is to be scrolled.
+    std::function<void()> OnMoved, OnScroll;
 
 private:
     friend class PlainSourceEditor;
+    void Moved() const {
+        if (OnMoved) OnMoved();
+    }
     // The places as bytes, taken before a change and put back moved behind it.
     struct Places {
         bool untouched;
@@ -69,13 +77,20 @@ public:
 
     const UnitBuffer& Buffer() const { return buffer_; }
     // One undoable step, as UnitBuffer::Apply.
-    void Apply(std::vector<TextEdits> groups);
+    void Apply(std::vector<TextEdits> groups) { Change(std::move(groups), false); }
+    // The person typed; joined, it belongs to the step before.
+    void Type(TextEdits edits, bool joined) { Change({std::move(edits)}, joined); }
     // The bytes for the disk; throws Error when the encoding cannot express the text.
     std::string Bytes() const { return EncodeUnit(buffer_.Unit(), fileName_); }
     void MarkSaved() { buffer_.MarkSaved(); }
+    void MarkUnsaved() { buffer_.MarkUnsaved(); }
+
+    std::function<void()> OnView; // the window's: the text changed, by Buffer().LastStep()
 
 private:
     friend class PlainEditWriter;
+    void Change(std::vector<TextEdits> groups, bool joined);
+    void TextChanged(const PlainEditView::Places& places);
     IOTAModule& module_;
     std::string fileName_;
     UnitBuffer buffer_;

@@ -38,6 +38,18 @@ bool UnitBuffer::Apply(std::vector<TextEdits> groups) {
     return true;
 }
 
+bool UnitBuffer::ApplyJoined(std::vector<TextEdits> groups) {
+    const bool joins = !undo_.empty() && savedStep_ != undo_.size();
+    if (!Apply(std::move(groups))) return false;
+    if (!joins) return true;
+    Step newest = std::move(undo_.back());
+    undo_.pop_back();
+    Step& former = undo_.back();
+    std::move(former.begin(), former.end(), std::back_inserter(newest));
+    former = std::move(newest);
+    return true;
+}
+
 bool UnitBuffer::Undo() {
     if (undo_.empty()) return false;
     Step step = std::move(undo_.back());

@@ -24,11 +24,15 @@ public:
     bool Apply(TextEdits edits) { return Apply(std::vector<TextEdits>{std::move(edits)}); }
     // The same for several groups, each with the positions that the groups before it leave.
     bool Apply(std::vector<TextEdits> groups);
+    // The same as a part of the newest step, unless that one was saved: typing is undone by words, not by keys.
+    bool ApplyJoined(std::vector<TextEdits> groups);
     bool Undo();
     bool Redo();
 
     bool Modified() const { return savedStep_ != undo_.size(); }
     void MarkSaved() { savedStep_ = undo_.size(); }
+    // The file holds something else by now: no undo leads back to it.
+    void MarkUnsaved() { savedStep_ = std::string::npos; }
 
     std::size_t CharToByte(std::size_t character) const; // the text's size when there are fewer
     std::size_t ByteToChar(std::size_t byte) const;
@@ -36,6 +40,8 @@ public:
     std::size_t PosToByte(EditPos position) const;
     EditPos ByteToPos(std::size_t byte) const;
 
+    // What the newest change or undo did: groups, each with the positions that the groups before it leave.
+    const std::vector<UnitEdits>& LastStep() const { return lastStep_; }
     // Where a byte of the text before the newest change or undo is now.
     std::size_t Moved(std::size_t byte) const;
 
