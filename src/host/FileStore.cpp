@@ -56,7 +56,9 @@ void FileStore::SaveAndCommit(std::vector<FileChange> changes) {
 void FileStore::WritePending() {
     FileTransaction transaction;
     for (FileChange& change : pending_) {
-        if (!std::filesystem::exists(change.file) || ReadFile(change.file) != change.oldBytes)
+        // A file that was deleted comes back only for those who know that it is gone.
+        if (std::filesystem::exists(change.file) ? ReadFile(change.file) != change.oldBytes
+                                                 : !change.oldBytes.empty())
             FailChanged(change.file);
         if (change.newBytes != change.oldBytes) transaction.Add(change.file, change.newBytes);
     }

@@ -12,6 +12,11 @@ unsigned FormCodePage(std::optional<Encoding> told, std::optional<Encoding> hint
     return Encoding().codePage;
 }
 
+// Empty of a file that is gone.
+std::string BytesOnDisk(ModuleHost& host, const std::filesystem::path& file) {
+    return host.Files().Exists(file) ? host.Files().Read(file) : std::string();
+}
+
 } // namespace
 
 // --- one source file ---
@@ -29,6 +34,11 @@ void OpenSource::AddChange(std::vector<FileChange>& changes) const {
 void OpenSource::MarkSaved(const std::vector<FileChange>& changes) {
     TakeSavedBytes(changes, file_, bytes_);
     editor_.MarkSaved();
+}
+
+void OpenSource::KeepOver(std::string diskBytes) {
+    bytes_ = std::move(diskBytes);
+    editor_.MarkUnsaved();
 }
 
 void TakeSavedBytes(const std::vector<FileChange>& changes, const std::filesystem::path& file,
@@ -113,6 +123,31 @@ std::vector<std::filesystem::path> PlainModule::Paths() const {
     for (const auto& path : {files_.header, files_.form})
         if (!path.empty()) paths.push_back(path);
     return paths;
+}
+
+std::vector<std::filesystem::path> PlainModule::ChangedOnDisk() const {
+    std::vector<std::filesystem::path> changed;
+    const auto check = [&](const std::filesystem::path& file, const std::string& bytes) {
+        if (BytesOnDisk(host_, file) != bytes) changed.push_back(file);
+    };
+    check(source_.Path(), source_.Bytes());
+    if (header_) check(header_->Path(), header_->Bytes());
+    if (form_) check(files_.form, formBytes_);
+    return changed;
+}
+
+void PlainModule::KeepOverDisk() {
+    const auto keep = [&](OpenSource& source) {
+        if (std::string bytes = BytesOnDisk(host_, source.Path()); bytes != source.Bytes())
+            source.KeepOver(std::move(bytes));
+    };
+    keep(source_);
+    if (header_) keep(*header_);
+    if (!form_) return;
+    if (std::string bytes = BytesOnDisk(host_, files_.form); bytes != formBytes_) {
+        formBytes_ = std::move(bytes);
+        form_->MarkModified();
+    }
 }
 
 } // namespace glotta

@@ -144,6 +144,7 @@ IOTAModule* PlainIde::FindFormModule(const std::string& formName) {
 void PlainIde::ShowModule(IOTAModule& module) {
     std::erase(shown_, &module);
     shown_.push_back(&module);
+    if (onShow) onShow(module);
 }
 
 PlainModule& PlainIde::OpenUnit(const fs::path& file) {
@@ -187,6 +188,28 @@ bool PlainIde::CloseFile(const std::string& fileName) {
 bool PlainIde::SaveFile(const std::string& fileName) {
     IOTAModule* module = FindModule(fileName);
     return module && module->Save(false, true);
+}
+
+std::vector<IOTAModule*> PlainIde::ChangedOnDisk() const {
+    std::vector<IOTAModule*> changed;
+    for (const Entry& entry : modules_)
+        if (!entry.files->ChangedOnDisk().empty()) changed.push_back(entry.module.get());
+    return changed;
+}
+
+void PlainIde::KeepOverDisk(IOTAModule& module) {
+    for (const Entry& entry : modules_)
+        if (entry.module.get() == &module) entry.files->KeepOverDisk();
+}
+
+bool PlainIde::Reload(const std::string& fileName) {
+    IOTAModule* const module = FindModule(fileName);
+    if (!module || !files_.Exists(PathFromText(module->FileName()))) return false;
+    const std::string name = module->FileName();
+    auto ask = std::exchange(askClose, [](IOTAModule&) { return CloseAnswer::Discard; });
+    const bool closed = CloseModule(*module);
+    askClose = std::move(ask);
+    return closed && OpenFile(name);
 }
 
 bool PlainIde::MayClose(const Entry& entry) {

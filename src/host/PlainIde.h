@@ -62,6 +62,17 @@ public:
 
     // What to do with a modified module that is to be closed; unset, it stays open.
     std::function<CloseAnswer(IOTAModule&)> askClose;
+    // A module was brought to front; something was passed over. Both are a window's.
+    std::function<void(IOTAModule&)> onShow;
+    std::function<void(const std::string& problem)> onProblem;
+
+    // Open modules with files that others changed or deleted since they were read or saved.
+    std::vector<IOTAModule*> ChangedOnDisk() const;
+    // What is open counts instead of what lies on disk.
+    void KeepOverDisk(IOTAModule& module);
+    // Closes the file's module without saving and opens it as it is on disk. False, and nothing is closed, when it
+    // cannot be read or a notifier forbids it.
+    bool Reload(const std::string& fileName);
 
 private:
     struct Entry {
@@ -77,7 +88,10 @@ private:
         notifications_.Tell(ofnActiveProjectChanged, fileName);
     }
     std::optional<AncestorForm> FindAncestor(const IOTAModule& asking, const std::string& formClass) override;
-    void AddProblem(std::string problem) override { problems_.push_back(std::move(problem)); }
+    void AddProblem(std::string problem) override {
+        problems_.push_back(std::move(problem));
+        if (onProblem) onProblem(problems_.back());
+    }
     std::optional<Encoding> ToldEncoding() const override { return told_; }
 
     std::vector<PlainProject*> Projects();
