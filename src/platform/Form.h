@@ -68,7 +68,10 @@ struct TAction {
 
 class TForm {
 public:
-    virtual ~TForm() = default;
+    virtual ~TForm() {
+        if (OnGone)
+            OnGone();
+    }
     std::string caption;
 
     // Asked before the form closes; false keeps it open. `result` is the way out.
@@ -85,6 +88,7 @@ public:
     ModalResult modalResult = ModalResult::None;
     std::function<void()> OnClose; // the view's
     std::function<void()> OnView;  // the view's: the form changed as a whole
+    std::function<void()> OnGone;  // the view's: the form ends while its window is open; nothing of it is left to read
 };
 
 } // namespace glotta

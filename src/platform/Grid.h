@@ -36,7 +36,14 @@ public:
     }
     virtual bool CanSort() const { return false; }
     virtual void Sort(std::size_t /*column*/, bool /*descending*/) {}
+    // The order in which the rows stand; column -1 for none that a header could show.
+    struct Sorting {
+        int column = -1;
+        bool descending = false;
+    };
+    virtual Sorting SortedBy() const { return {}; }
     virtual RowLook Look(std::size_t /*row*/) const { return RowLook::Plain; }
+    virtual RowLook CellLook(std::size_t row, std::size_t /*column*/) const { return Look(row); }
     virtual std::string Hint(std::size_t /*row*/) const { return {}; }
 
     // The current row, -1 for none.

@@ -34,6 +34,7 @@ public:
     bool Enter(std::size_t row, std::size_t column, const std::string& text) override;
     bool CanSort() const override { return true; }
     void Sort(std::size_t column, bool descending) override;
+    Sorting SortedBy() const override { return {int(sortedBy_), descending_}; }
     RowLook Look(std::size_t row) const override;
     std::string Hint(std::size_t row) const override { return rows_[row]->Note; }
 
