@@ -9,7 +9,9 @@
 #include "scanner/ScanCommands.h"
 #include "scanner/SourceFlavour.h"
 
+#include <algorithm>
 #include <iostream>
+#include <unordered_set>
 
 namespace glotta {
 
@@ -60,6 +62,14 @@ private:
             AddAll(targets);
         if (targets.empty() && !options_.all)
             throw Error("nothing to localize: name forms (--form), units (--unit) or --all");
+        return InOrder(std::move(targets));
+    }
+
+    // Each unit once, forms first: a unit without a form may need a component that is inserted only now.
+    static std::vector<Target> InOrder(std::vector<Target> targets) {
+        std::unordered_set<std::string> seen;
+        std::erase_if(targets, [&](const Target& target) { return !seen.insert(target.file).second; });
+        std::stable_partition(targets.begin(), targets.end(), [](const Target& target) { return !target.form.empty(); });
         return targets;
     }
 
@@ -79,7 +89,6 @@ private:
         throw Error("--unit " + name + ": the project has no such unit");
     }
 
-    // Forms first: a unit without a form may need a component that is inserted only now.
     void AddAll(std::vector<Target>& targets) {
         for (const FormsListItem& item : project_.Forms().items)
             targets.push_back({item.formName, item.unitName, item.fileName});

@@ -34,7 +34,7 @@ std::string Replaced(std::string text, const std::string& from, const std::strin
     return text;
 }
 
-std::string Run(const fs::path& folder, const std::string& arguments) {
+std::string RunGlotta(const fs::path& folder, const std::string& arguments) {
     std::string command = "cd '" + folder.string() + "' && GLOTTA_REGISTRY='" + folder.string() + ".reg' '" GLOTTA_BIN_DIR
                           "/glotta' " + arguments + " 2>&1";
     FILE* pipe = popen(command.c_str(), "r");
@@ -71,7 +71,7 @@ TEST_P(Case, GivesWhatIsExpected) {
     std::istringstream commands(Slurp(folder / "command"));
     for (std::string line; std::getline(commands, line);)
         if (!line.empty())
-            output += Run(work, line);
+            output += RunGlotta(work, line);
 
     std::map<std::string, std::string> expected = Tree(input), actual = Tree(work);
     if (std::getenv("GLOTTA_UPDATE_CASES")) {
