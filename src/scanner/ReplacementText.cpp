@@ -32,6 +32,7 @@ std::string CommentText(std::string_view value, const SourceFlavour& flavour, in
             text += ' ';
     }
     if (kept.size() < value.size()) text += "...";
+    if (text.find(flavour.COMMENTEND) == std::string::npos) return text;
     // "*)" becomes "* )", so that the comment ends where the call's text says.
     const std::string parted{flavour.COMMENTEND[0], ' ', flavour.COMMENTEND[1]};
     return ReplaceStr(text, flavour.COMMENTEND, parted);
@@ -40,7 +41,10 @@ std::string CommentText(std::string_view value, const SourceFlavour& flavour, in
 std::string BuildReplacement(const ReplacementParts& parts, const SourceFlavour& flavour,
                              const SettingsValues& settings) {
     std::string result;
-    const auto append = [&](auto... pieces) { (result.append(pieces), ...); };
+    const auto append = [&](auto&&... pieces) {
+        result.reserve(result.size() + (std::string_view(pieces).size() + ...));
+        (result.append(pieces), ...);
+    };
     append(parts.component, flavour.METHODPOINT, settings.ReplaceMethod, flavour.STRDELIM, parts.id,
            flavour.STRDELIM);
     if (settings.NoCommentsInSources || parts.inBlockComment)
