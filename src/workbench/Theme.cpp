@@ -1,0 +1,56 @@
+#include "workbench/Theme.h"
+
+#include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleFactory>
+
+namespace glotta {
+namespace {
+
+struct RoleColor {
+    QPalette::ColorRole role;
+    const char* light;
+    const char* dark;
+};
+constexpr RoleColor Colors[] = {
+    {QPalette::Window, "#f3f4f6", "#23272e"},        {QPalette::WindowText, "#1f2328", "#d8dee9"},
+    {QPalette::Base, "#ffffff", "#1b1f24"},          {QPalette::AlternateBase, "#f6f8fa", "#20252b"},
+    {QPalette::ToolTipBase, "#ffffe6", "#2d333b"},   {QPalette::ToolTipText, "#1f2328", "#d8dee9"},
+    {QPalette::Text, "#1f2328", "#d8dee9"},          {QPalette::Button, "#eceef1", "#2d333b"},
+    {QPalette::ButtonText, "#1f2328", "#d8dee9"},    {QPalette::BrightText, "#ffffff", "#ffffff"},
+    {QPalette::Highlight, "#2f6fb2", "#3d6ea5"},     {QPalette::HighlightedText, "#ffffff", "#ffffff"},
+    {QPalette::Link, "#0b5fb0", "#7fb4f0"},          {QPalette::LinkVisited, "#6b4a9e", "#b59ae0"},
+    {QPalette::PlaceholderText, "#8a929b", "#7d8590"}, {QPalette::Light, "#ffffff", "#3a414a"},
+    {QPalette::Midlight, "#f8f9fa", "#333a42"},      {QPalette::Mid, "#c3c8ce", "#1a1d21"},
+    {QPalette::Dark, "#9aa1a9", "#14171a"},          {QPalette::Shadow, "#6b7178", "#0c0e10"}};
+constexpr QPalette::ColorRole Dimmed[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                          QPalette::HighlightedText};
+
+QPalette PaletteOf(bool dark) {
+    QPalette palette;
+    for (const RoleColor& each : Colors)
+        palette.setColor(each.role, QColor(dark ? each.dark : each.light));
+    for (QPalette::ColorRole role : Dimmed)
+        palette.setColor(QPalette::Disabled, role, QColor(dark ? "#6b737d" : "#9aa1a9"));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(dark ? "#333a42" : "#d5d9de"));
+    return palette;
+}
+
+} // namespace
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+QColor CodePaper(bool dark) {
+    return QColor(dark ? "#1b1f24" : "#ffffff");
+}
+
+void ApplyTheme(std::string_view theme) {
+    static const bool systemIsDark = IsDark(QApplication::palette()); // before the first change
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(PaletteOf(theme == "Dark" || (theme == "System" && systemIsDark)));
+}
+
+} // namespace glotta
