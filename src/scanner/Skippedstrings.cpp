@@ -32,11 +32,19 @@ const char* SkipReasonText(TStringSkipReason reason) {
 }
 
 TfrmSkippedStrings::TfrmSkippedStrings(IdeServices& ide, int previewLines,
-                                       std::vector<TgxSkippedString> skipped, std::string source)
-    : ide_(ide), previewLines_(previewLines), skipped_(std::move(skipped)), source_(std::move(source)) {
+                                       std::vector<TgxSkippedString> skipped, std::string source,
+                                       RegistryStore* registry)
+    : ide_(ide), previewLines_(previewLines), skipped_(std::move(skipped)), source_(std::move(source)),
+      registry_(registry) {
     caption = "Strings Skipped by Expert";
     lbStrings.OnChange = [this] { ShowChosen(); };
+    if (registry_) Placement.Set(TgxFormStorage(*registry_, PlacementKey).ReadPlacement());
     if (!skipped_.empty()) lbStrings.SelectOnly(0);
+}
+
+bool TfrmSkippedStrings::CloseQuery(Ui&, ModalResult) {
+    if (registry_ && Placement()) TgxFormStorage(*registry_, PlacementKey).WritePlacement(*Placement());
+    return true;
 }
 
 void TfrmSkippedStrings::ShowChosen() {

@@ -218,7 +218,8 @@ void TfrmFound::RestoreDeletedRow() {
 void TfrmFound::ViewSkipped() {
     if (skippedForm_) return ui_.BringToFront(*skippedForm_);
     skippedForm_ = std::make_unique<TfrmSkippedStrings>(context_.ide, context_.settings.Values().PreviewLines,
-                                                        context_.skipped, context_.source);
+                                                        context_.skipped, context_.source,
+                                                        &context_.registry);
     ui_.Show(*skippedForm_);
 }
 
