@@ -55,12 +55,12 @@ void FormsGrid::Sort(std::size_t column, bool) {
 void FormsGrid::SortBy(int column, int order) {
     if (column < 0 || column >= int(Columns) || order == 0)
         return;
-    sorting_ = {column, order < 0};
     auto& items = list_.items;
     const bool neverEqual = column == Languages;
     for (const FormsListItem& item : items)
         if (neverEqual)
             LanguageCount(item);
+    sorting_ = {column, order < 0};
     std::vector<std::size_t> rows(items.size());
     std::iota(rows.begin(), rows.end(), 0);
     std::sort(rows.begin(), rows.end(), [&](std::size_t a, std::size_t b) {
