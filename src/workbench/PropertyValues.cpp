@@ -1,0 +1,126 @@
+#include "workbench/PropertyValues.h"
+
+#include "platform/Error.h"
+#include "platform/Text.h"
+
+#include <charconv>
+
+namespace glotta {
+namespace {
+
+bool IsString(TTypeKind kind) {
+    return kind == TTypeKind::tkString || kind == TTypeKind::tkLString || kind == TTypeKind::tkWString;
+}
+
+bool IsSimple(const PropertyInfo& info) {
+    switch (info.kind) {
+    case TTypeKind::tkInteger:
+    case TTypeKind::tkInt64:
+    case TTypeKind::tkEnumeration:
+    case TTypeKind::tkFloat:
+    case TTypeKind::tkMethod:
+        return true;
+    default:
+        return IsString(info.kind);
+    }
+}
+
+std::string Joined(const std::vector<FormValue>& items) {
+    std::string text;
+    for (const FormValue& item : items)
+        text += (text.empty() ? "" : ",") + item.text;
+    return text;
+}
+
+std::string TextOf(const FormValue& value) {
+    switch (value.kind) {
+    case FormValueKind::Nil: return "nil";
+    case FormValueKind::False: return "False";
+    case FormValueKind::True: return "True";
+    case FormValueKind::Integer: return std::to_string(value.integer);
+    case FormValueKind::Set: return "[" + Joined(value.items) + "]";
+    case FormValueKind::Binary: return "(binary data)";
+    case FormValueKind::List: return value.IsStringList() ? "(" + std::to_string(value.items.size()) + " lines)" : "(list)";
+    case FormValueKind::Collection: return "(" + std::to_string(value.collection.size()) + " items)";
+    default: return value.text;
+    }
+}
+
+bool IsIdentifier(std::string_view text) {
+    const auto starts = [](char c) { return std::isalpha(static_cast<unsigned char>(c)) || c == '_'; };
+    return !text.empty() && starts(text.front()) && std::all_of(text.begin(), text.end(), [&](char c) {
+        return starts(c) || std::isdigit(static_cast<unsigned char>(c)) || c == '.';
+    });
+}
+
+bool IsBoolean(const PropertyInfo& info, const FormProperty* stored) {
+    return SameText(info.typeName, "Boolean") ||
+           (stored && (stored->value.kind == FormValueKind::True || stored->value.kind == FormValueKind::False));
+}
+
+std::optional<std::int64_t> ToInteger(const std::string& text) {
+    std::int64_t value = 0;
+    const bool hex = text.starts_with("$");
+    const char* begin = text.data() + (hex ? 1 : 0);
+    const char* end = text.data() + text.size();
+    const auto [stop, failure] = std::from_chars(begin, end, value, hex ? 16 : 10);
+    if (failure != std::errc() || stop != end || begin == end) return std::nullopt;
+    return value;
+}
+
+[[noreturn]] void Refuse(const PropertyInfo& info, const std::string& text) {
+    throw Error("'" + text + "' is not a valid value for " + info.name);
+}
+
+FormValue ValueOf(const PropertyInfo& info, const FormProperty* stored, const std::string& text) {
+    if (IsString(info.kind)) return FormValue::String(text);
+    if (IsBoolean(info, stored)) {
+        if (SameText(text, "True") || SameText(text, "False")) return FormValue::Bool(SameText(text, "True"));
+        Refuse(info, text);
+    }
+    if (info.kind == TTypeKind::tkFloat) {
+        double number = 0;
+        const auto [stop, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+        if (failure != std::errc() || stop != text.data() + text.size()) Refuse(info, text);
+        FormValue value;
+        value.kind = FormValueKind::Float;
+        value.text = text.find('.') == std::string::npos ? text + ".000000000000000000" : text;
+        return value;
+    }
+    if (const auto number = ToInteger(text); number && info.kind != TTypeKind::tkEnumeration)
+        return FormValue::Integer(*number);
+    if (!IsIdentifier(text)) Refuse(info, text);
+    return FormValue::Identifier(text);
+}
+
+} // namespace
+
+std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events) {
+    std::vector<PropertyRow> rows;
+    if (!events)
+        rows.push_back({{"Name", "TComponentName", TTypeKind::tkLString}, component.Name(), true, true, {}});
+    for (PropertyInfo& info : component.PublishedProperties()) {
+        if ((info.kind == TTypeKind::tkMethod) != events || SameText(info.name, "Name")) continue;
+        PropertyRow row{std::move(info), {}, false, false, {}};
+        const FormProperty* stored = component.Node().Find(row.info.name);
+        row.stored = stored != nullptr;
+        if (stored) row.text = TextOf(stored->value);
+        row.editable = IsSimple(row.info);
+        if (IsBoolean(row.info, stored)) row.choices = {"False", "True"};
+        rows.push_back(std::move(row));
+    }
+    std::stable_sort(rows.begin() + (events ? 0 : 1), rows.end(),
+                     [](const PropertyRow& a, const PropertyRow& b) { return CompareText(a.info.name, b.info.name) < 0; });
+    return rows;
+}
+
+void SetProperty(TComponent& component, const PropertyInfo& info, const std::string& text) {
+    const FormProperty* stored = component.Node().Find(info.name);
+    if (text.empty() && !IsString(info.kind)) {
+        component.Node().Remove(info.name);
+        return;
+    }
+    component.Node().Set(info.name, ValueOf(info, stored, text));
+}
+
+} // namespace glotta
