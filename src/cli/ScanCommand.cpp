@@ -10,6 +10,7 @@
 #include "scanner/ReplacementText.h"
 #include "scanner/CallPlaces.h"
 #include "scanner/ConstRewrite.h"
+#include "scanner/FormReach.h"
 #include "scanner/PhasesAfterScan.h"
 #include "scanner/SourceScan.h"
 
@@ -62,6 +63,16 @@ void NoteConstants(std::string_view text, std::string_view formClass, TgxFoundSo
             found[i].Note = rewrite.WhyNotConst({found[i].Constant, found[i].Begin, found[i].End, found[i].Value});
 }
 
+void NoteUnreachable(std::string_view text, const ScanInput& input, const std::string& formClass,
+                     TgxFoundSourceStrings& found) {
+    if (found.Count() == 0)
+        return;
+    FormReach reach(text, input.flavour->IsCPPSource, formClass);
+    for (std::size_t i = 0; i < found.Count(); ++i)
+        if (found[i].Note.empty())
+            found[i].Note = reach.WhyNotAlone(found[i].Begin, input.component);
+}
+
 struct UnitResult {
     std::string text;
     ScanTotals totals;
@@ -105,6 +116,8 @@ private:
 
         if (options_.constMode)
             NoteConstants(source.text, known.formClass, output.found);
+        else if (!known.formClass.empty() && input.component.find(input.flavour->METHODPOINT) == std::string::npos)
+            NoteUnreachable(source.text, input, known.formClass, output.found);
 
         UnitReport report{unit.shown, input.flavour->IsCPPSource, output.found, output.skipped};
         result.text = options_.json ? JsonLine(report) : Table(report);

@@ -120,7 +120,7 @@ std::string ConstRewrite::WhyNotConst(const FoundConstant& constant, const Const
     if (reason.empty()) reason = WhyNotPlace(tokens_.Begin(declaration.name));
     if (!reason.empty()) return reason;
     const std::string_view name = tokens_[declaration.name];
-    if (LineAt(tokens_, tokens_.End(declaration.semicolon)).starts_with(LocalizedComment))
+    if (TrimRight(LineAt(tokens_, tokens_.End(declaration.semicolon))).ends_with(LocalizedComment))
         return "localized already";
     if (declaration.type.empty() && CharCount(constant.value) == 1)
         return "one character, so its type is Char";
@@ -164,10 +164,13 @@ TextEdit ConstRewrite::RewriteOne(const Declaration& declaration, const FoundCon
         lines += "''";
     else
         lines += "'' (* '" + CommentText(constant.value, PascalFlavour, settings.CommentsLength) + "' *)";
-    lines += ";" + std::string(LocalizedComment);
-    // The mark runs to the line's end, so code that follows on the line moves to the next.
+    lines += ";";
+    // Comments behind the declaration stay there. The mark runs to the line's end, so code that follows on the line
+    // moves to the next, and so does a comment that goes on there.
     const std::size_t rest = tokens_.RestOfLine(end);
-    if (rest == text.size() || text[rest] == '\r' || text[rest] == '\n') return {begin, end, lines};
+    if (rest == text.size() || text[rest] == '\r' || text[rest] == '\n')
+        return {begin, rest, lines.append(text, end, rest - end).append(LocalizedComment)};
+    lines += LocalizedComment;
     std::size_t next = end;
     while (next < text.size() && (text[next] == ' ' || text[next] == '\t'))
         ++next;

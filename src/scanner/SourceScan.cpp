@@ -22,6 +22,19 @@ struct Line {
     int number;             // 0-based
 };
 
+// Characters that the source does not hold as such, but by codes beyond ASCII: at run time those are bytes of the
+// system's code page.
+bool HoldsForeignCode(const TgxFoundSourceString& row) {
+    if (IsAscii(row.Value)) return false;
+    for (std::size_t pos = FindNonAscii(row.Value); pos < row.Value.size();) {
+        const std::size_t begin = pos;
+        if (NextChar(row.Value, pos) > 127 &&
+            row.SourceText.find(row.Value.substr(begin, pos - begin)) == std::string::npos)
+            return true;
+    }
+    return false;
+}
+
 class Scan {
 public:
     Scan(const ScanInput& input, const ScanRules& rules);
@@ -215,6 +228,8 @@ void Scan::AddFound(const LiteralStart& start, LiteralExpression expression, con
     if (lineChars_ == Nowhere) lineChars_ = places_.Before(line.start);
     found.Column = static_cast<int>(found.Position - 1 - lineChars_);
     found.Note = WhyNoCall(found.Begin, found.End);
+    if (found.Note.empty() && HoldsForeignCode(found))
+        found.Note = "a character code above 127 depends on the code page";
     if (constants_) {
         found.Constant = constants_->At(start.open)->name;
         found.ID = ids_.ForConstant(found.Constant);

@@ -40,8 +40,11 @@ TEST(ConstRewrite, WritesEachDeclarationOnOneLine) {
     struct {
         const char *before, *value, *emptied, *kept;
     } const cases[] = {
-        {"const\r\n  Foo = [['It''s']]; // old\r\n", "It's", "const\r\n\tFoo: string = '' (* 'It's' *);@ // old\r\n",
-         "const\r\n\tFoo: string = 'It''s';@ // old\r\n"},
+        {"const\r\n  Foo = [['It''s']]; // old\r\n", "It's", "const\r\n\tFoo: string = '' (* 'It's' *); // old@\r\n",
+         "const\r\n\tFoo: string = 'It''s'; // old@\r\n"},
+        {"const\r\n  Foo = [['ab']]; { of\r\n  two lines }\r\n", "ab",
+         "const\r\n\tFoo: string = '' (* 'ab' *);@\r\n\t{ of\r\n  two lines }\r\n",
+         "const\r\n\tFoo: string = 'ab';@\r\n\t{ of\r\n  two lines }\r\n"},
         {"const Foo: WideString = [['A' +\r\n  #13#10'B']];\r\n", "A\r\nB",
          "const\r\n\tFoo: WideString = '' (* 'A B' *);@\r\n",
          "const\r\n\tFoo: WideString = 'A'#13#10 + \t'B';@\r\n"},
