@@ -107,7 +107,7 @@ TEST_F(Files, OneHolderOfALockAtATime) {
 }
 
 TEST(Paths, NamesCompareAsOnWindows) {
-    EXPECT_TRUE(SameFileName("C:\\Work\\ÜNIT1.PAS", "c:/work/ünit1.pas"));
+    EXPECT_TRUE(SameFileName("C:\\Job\\ÜNIT1.PAS", "c:/job/ünit1.pas"));
     EXPECT_EQ(LowerExtension("dir.x\\Unit1.PAS") + LowerExtension("dir.x/none") + LowerExtension("a.b.Dfm"),
               ".pas.dfm");
 }
