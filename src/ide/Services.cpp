@@ -78,7 +78,7 @@ IOTASourceEditor* IdeServices::GetSourceEditorFromFileName(const std::string& fi
 }
 
 IOTASourceEditor* IdeServices::GetSourceEditorFromFormName(const std::string& formName) {
-    if (const FormsListItem* item = forms_.FindText(formName))
+    if (const FormsListItem* item = forms_->FindText(formName))
         return GetSourceEditorFromFileName(item->fileName);
     for (const IOTAModuleInfo& info : RequireActiveProject().Modules())
         if (SameText(info.formName, formName)) return GetSourceEditorFromFileName(info.fileName);
@@ -106,18 +106,18 @@ IOTASourceEditor* IdeServices::GetSourceEditorFromModule(IOTAModule* module) {
 }
 
 IDesigner* IdeServices::GetDesigner() {
-    const std::vector<FormsListItem*> selected = forms_.Selected();
+    const std::vector<FormsListItem*> selected = forms_->Selected();
     return selected.empty() ? nullptr : GetDesignerByFormName(selected.front()->formName);
 }
 
 IDesigner* IdeServices::GetDesignerByFormName(const std::string& formName) {
-    const FormsListItem* item = forms_.FindExact(formName);
+    const FormsListItem* item = forms_->FindExact(formName);
     IOTAFormEditor* editor = item ? GetFormEditorFromModule(GetModuleFromFileName(item->fileName)) : nullptr;
     return editor ? &editor->Designer() : nullptr;
 }
 
 TComponent* IdeServices::GetComponentOnForm(const std::string& formName, const std::string& componentName) {
-    const FormsListItem* item = forms_.FindExact(formName);
+    const FormsListItem* item = forms_->FindExact(formName);
     if (!item || !OpenFile(item->fileName, false) || !TestForCorrectForm(formName)) return nullptr;
     TComponent* root = GetOwnerByName(formName);
     return root ? root->FindComponent(componentName) : nullptr;

@@ -11,7 +11,7 @@ namespace glotta {
 
 class IdeServices {
 public:
-    IdeServices(BorlandIDEServices ide, FormsList& forms, Ui& ui) : ide_(ide), forms_(forms), ui_(ui) {}
+    IdeServices(BorlandIDEServices ide, FormsList& forms, Ui& ui) : ide_(ide), forms_(&forms), ui_(ui) {}
 
     IOTAProjectGroup* GetActiveProjectGroup();
     IOTAProject* GetActiveProject();
@@ -51,14 +51,16 @@ public:
     // Brought to the top when a form cannot be reached; nil while it is not open.
     TForm* mainWindow = nullptr;
 
-    FormsList& Forms() { return forms_; }
+    // The list that commands work on: the project's forms, or for a while another one.
+    FormsList& Forms() { return *forms_; }
+    void UseForms(FormsList& forms) { forms_ = &forms; }
     Ui& GetUi() { return ui_; }
     BorlandIDEServices Ide() { return ide_; }
 
 private:
     IOTAProject& RequireActiveProject();
     BorlandIDEServices ide_;
-    FormsList& forms_;
+    FormsList* forms_;
     Ui& ui_;
 };
 

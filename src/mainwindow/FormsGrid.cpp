@@ -89,6 +89,13 @@ std::string FormsGrid::Hint(std::size_t row) const {
     return note == notes_.end() ? std::string() : note->second;
 }
 
+void FormsGrid::Add(FormsListItem item) {
+    std::vector<int> stay(list_.items.size());
+    std::iota(stay.begin(), stay.end(), 0);
+    list_.items.push_back(std::move(item));
+    RowsChanged(stay);
+}
+
 void FormsGrid::Replaced() {
     notes_.clear();
     RowsReplaced();

@@ -33,6 +33,8 @@ public:
     int ImageIndex(std::size_t row) const { return list_.items[row].imageIndex; }
 
     FormsList& List() { return list_; }
+    const FormsList& List() const { return list_; }
+    void Add(FormsListItem item);
     // Sorts the entries; order 1 ascending, -1 descending. A number of languages that is none is an Error.
     void SortBy(int column, int order);
     // Wholly new entries.

@@ -35,7 +35,7 @@ constexpr MainCommand Commands[] = {
     {"MergeProject1", SaveLoad, {}, "Mer&ge Project...", "Merge translations of whole project from file", MergeProject},
     {"N3", File, {}, "-", {}},
     {"tbAddExternalFile", File, {}, "Add &External File...", "Add external file|Add a file that is not part of the project",
-     Always, {}, nullptr, Button},
+     Always, {}, &W::tbAddExternalFileClick, Button},
     {"acProjectSettings", File, {}, "Project Settings...", "Translation settings of the project", Always},
     {"N4", File, {}, "-", {}},
     {"Close1", File, {}, "&Close", {}, Always, "Ctrl+W", &W::Close1Click},

@@ -65,19 +65,20 @@ TfrmGlotta::~TfrmGlotta() {
 
 void TfrmGlotta::FillFromProject(IOTAProject& project) {
     std::vector<std::string> errors;
-    context_.ide.Forms() = ListProjectForms(project, errors);
+    FormsList& forms = lvFormNames.List();
+    forms = ListProjectForms(project, errors);
     unitCount_ = project.Modules().size();
-    for (FormsListItem& item : context_.ide.Forms().items)
+    for (FormsListItem& item : forms.items)
         ReadOpenForm(item);
     lvFormNames.Replaced();
     for (const std::string& error : errors)
-        for (const FormsListItem& item : context_.ide.Forms().items)
+        for (const FormsListItem& item : forms.items)
             if (error.starts_with(FormFileOf(item.fileName, ".")))
                 lvFormNames.SetNote(item.fileName, error);
 }
 
 void TfrmGlotta::ClearProject() {
-    context_.ide.Forms().items.clear();
+    lvFormNames.List().items.clear();
     lvFormNames.Replaced();
     unitCount_ = 0;
     UpdateStatusBar();
@@ -112,7 +113,7 @@ void TfrmGlotta::UpdateEntries(const std::string& fileName) {
 void TfrmGlotta::OpenAllForms() {
     Progress progress(UiPort(), "Opening forms...");
     IOTASourceEditor* const inFront = context_.ide.GetCurrentSourceEditor();
-    for (FormsListItem& item : context_.ide.Forms().items) {
+    for (FormsListItem& item : lvFormNames.List().items) {
         if (!context_.ide.OpenFile(item.fileName, false))
             continue;
         IOTAFormEditor* editor =
@@ -160,7 +161,7 @@ void TfrmGlotta::SelectCurrentEditor() {
     if (!editor)
         return;
     const std::string file = editor->FileName();
-    const auto& items = context_.ide.Forms().items;
+    const auto& items = lvFormNames.List().items;
     const auto isCurrent = [&](const FormsListItem& item) {
         return SameText(item.fileName, file) || SameText(FormFileOf(item.fileName, ".dfm"), file) ||
                SameText(FormFileOf(item.fileName, ".xfm"), file);
@@ -181,7 +182,7 @@ void TfrmGlotta::FillProjectForms(std::vector<std::string>& list) const {
 void TfrmGlotta::UpdateStatusBar() {
     if (destroying_)
         return;
-    const auto& items = context_.ide.Forms().items;
+    const auto& items = lvFormNames.List().items;
     const auto translated =
         std::count_if(items.begin(), items.end(), [](const FormsListItem& item) { return !item.glotta.empty(); });
     const std::string count = std::to_string(items.size());
@@ -208,8 +209,8 @@ void TfrmGlotta::lvFormNamesColumnClick(std::size_t column) {
 
 void TfrmGlotta::lvFormNamesDblClick(std::size_t row) {
     Run([&] {
-        if (row < lvFormNames.RowCount())
-            translation_.InsertTGlotta(context_.ide.Forms().items[row]);
+        if (row < ActiveList().RowCount())
+            translation_.InsertTGlotta(ActiveList().List().items[row]);
     });
 }
 

@@ -83,7 +83,7 @@ public:
     void UpdateStatusBar();
     void CheckEnableActions();
     void lvFormNamesColumnClick(std::size_t column);
-    void lvFormNamesDblClick(std::size_t row); // inserts a component on the row's form
+    void lvFormNamesDblClick(std::size_t row); // of either list: inserts a component on the row's form
     void FormShow();
     bool CloseQuery(Ui& ui, ModalResult result) override;
 
@@ -101,6 +101,9 @@ public:
     void TranslateUnit1Click();
     void WithoutForm1Click();
     void ViewSkipped1Click();
+    void tbAddExternalFileClick();
+    // Lists the file's form; a file without one adds nothing.
+    void AddExternalFile(const std::string& fileName);
     void ViewForm1Click();
     void SelectAll1Click();
     void sbOptionsClick();

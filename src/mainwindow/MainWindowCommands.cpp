@@ -1,6 +1,7 @@
 // What the main window's commands do.
 #include "mainwindow/MainWindow.h"
 #include "platform/Error.h"
+#include "platform/Files.h"
 #include "platform/Text.h"
 #include "settings/ExpertSettings.h"
 #include "settings/_expopt.h"
@@ -34,6 +35,36 @@ void TfrmGlotta::ViewForm1Click() {
 void TfrmGlotta::SelectAll1Click() {
     ActiveList().ClearSelection();
     ActiveList().InvertSelection();
+}
+
+void TfrmGlotta::tbAddExternalFileClick() {
+    FileDialog dialog;
+    dialog.defaultExtension = "pas";
+    dialog.filter = "Pascal Files(*.pas)|*.pas";
+    dialog.allowMultiSelect = true;
+    if (!UiPort().Execute(dialog))
+        return;
+    for (const std::string& file : dialog.files)
+        AddExternalFile(file);
+    UiPort().BringToFront(*this);
+}
+
+void TfrmGlotta::AddExternalFile(const std::string& fileName) {
+    const bool wasOpen = context_.ide.IsFileOpen(fileName);
+    if (!context_.ide.OpenFile(fileName, true))
+        throw EGlottaSilent();
+    FormsListItem item;
+    IOTAModule* module = context_.ide.Ide().modules.FindModule(fileName);
+    item.fileName = module ? module->FileName() : fileName;
+    item.unitName = PathText(PathFromText(item.fileName).stem());
+    const auto& items = lvExternalFiles.List().items;
+    const bool listed = std::any_of(items.begin(), items.end(), [&](const FormsListItem& other) {
+        return SameFileName(other.fileName, item.fileName);
+    });
+    if (!listed && ReadOpenForm(item))
+        lvExternalFiles.Add(std::move(item));
+    if (!wasOpen)
+        context_.ide.CloseFile(fileName);
 }
 
 // --- hard-coded strings ---
@@ -72,7 +103,7 @@ std::vector<std::string> TfrmGlotta::UnitsToScan() {
 // Without any form that could take the strings there is nothing to choose: the command says so.
 std::optional<TfrmGlotta::UnitChoice> TfrmGlotta::ChooseUnit() {
     std::vector<std::string> forms;
-    for (const FormsListItem& item : context_.ide.Forms().items)
+    for (const FormsListItem& item : lvFormNames.List().items)
         if (item.languages != "0")
             forms.push_back(item.formName);
     if (forms.empty())
@@ -95,6 +126,7 @@ std::optional<TfrmGlotta::UnitChoice> TfrmGlotta::ChooseUnit() {
 }
 
 void TfrmGlotta::ScanUnit(const std::function<void(ScanCommands&, const UnitChoice&)>& scan) {
+    context_.ide.UseForms(lvFormNames.List()); // whatever page shows
     const std::optional<UnitChoice> choice = ChooseUnit();
     if (!choice)
         return;
@@ -119,7 +151,8 @@ void TfrmGlotta::WithoutForm1Click() {
 
 void TfrmGlotta::ViewSkipped1Click() {
     skippedForm_ = std::make_unique<TfrmSkippedStrings>(context_.ide, context_.settings.Values().PreviewLines,
-                                                        context_.results.skipped, context_.results.source);
+                                                        context_.results.skipped, context_.results.source,
+                                                        &context_.registry);
     UiPort().Show(*skippedForm_);
 }
 

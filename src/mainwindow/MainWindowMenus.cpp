@@ -58,8 +58,11 @@ void TfrmGlotta::AddCommand(TMenuItem& parent, const MainCommand& command, std::
     bound_.push_back({&item, &command, isButton});
 }
 
+// Commands work on the list of the page that shows.
 void TfrmGlotta::Run(const std::function<void()>& command) {
+    context_.ide.UseForms(ActiveList().List());
     RunCommand(UiPort(), command);
+    context_.ide.UseForms(lvFormNames.List());
     ShowFilled();
 }
 
@@ -86,8 +89,8 @@ void TfrmGlotta::WizardItemClick(int tag) {
         return;
     }
     IOTAProject* project = context_.ide.GetActiveProject();
-    const auto selected = lvFormNames.SelectedRows();
-    const std::string form = selected.empty() ? "" : lvFormNames.CellText(selected.front(), FormsGrid::FileName);
+    const auto selected = ActiveList().SelectedRows();
+    const std::string form = selected.empty() ? "" : ActiveList().CellText(selected.front(), FormsGrid::FileName);
     context_.launcher.Open(program, "-p \"" + (project ? project->FileName() : "") + "\" -s \"" + form + "\"");
 }
 
@@ -97,13 +100,11 @@ bool TfrmGlotta::IsEnabled(const BoundItem& bound) const {
         return false;
     if (command.tag <= 0)
         return true;
-    if (bound.isButton)
-        return ActiveList().SelectedCount() > 0;
-    if (command.tag == MergeProject)
+    if (command.tag == MergeProject && !bound.isButton)
         return true;
-    const auto selected = lvFormNames.SelectedRows();
-    if (command.tag == LocalizedForm)
-        return !selected.empty() && !lvFormNames.CellText(selected.front(), FormsGrid::Glotta).empty();
+    const auto selected = ActiveList().SelectedRows();
+    if (command.tag == LocalizedForm && !bound.isButton)
+        return !selected.empty() && !ActiveList().CellText(selected.front(), FormsGrid::Glotta).empty();
     return !selected.empty();
 }
 

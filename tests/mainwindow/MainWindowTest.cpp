@@ -130,19 +130,19 @@ TEST(MainWindow, AColumnClickSortsAndTurns) {
 TEST(MainWindow, CommandsAreEnabledByWhatTheirTagsNeed) {
     Desk desk;
     TfrmGlotta& window = desk.Open();
-    const std::string always = "Close1 TranslateUnit1 WithoutForm1 SelectAll1 StayonTop1 DictionaryManager1 sbOptions About1 ";
+    const std::string always = "tbAddExternalFile Close1 TranslateUnit1 WithoutForm1 SelectAll1 StayonTop1 DictionaryManager1 sbOptions About1 ";
     EXPECT_EQ(desk.Enabled(window.MainMenu.Items), always);
-    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "sbOptions ");
+    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "tbAddExternalFile sbOptions ");
     desk.Select("Data");
     EXPECT_EQ(desk.Enabled(window.MainMenu.Items),
-              "sbCaptions sbLanguages Close1 Translatesource1 TranslateUnit1 Const1 WithoutForm1 ViewForm1 SelectAll1 "
+              "sbCaptions sbLanguages tbAddExternalFile Close1 Translatesource1 TranslateUnit1 Const1 WithoutForm1 ViewForm1 SelectAll1 "
               "StayonTop1 DictionaryManager1 sbOptions About1 ");
     EXPECT_EQ(desk.Enabled(window.PopupMenu.Items),
               "sbCaptions sbLanguages Translatesource1 Const1 ViewForm1 SelectAll1 StayonTop1 sbOptions About1 ");
     EXPECT_EQ(desk.Enabled(window.ToolBar.Items),
-              "sbCaptions sbLanguages Translatesource1 Const1 ViewForm1 sbOptions ");
+              "sbCaptions sbLanguages tbAddExternalFile Translatesource1 Const1 ViewForm1 sbOptions ");
     window.pcForms.Enter(1); // nothing is selected in the list of that page
-    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "sbOptions ");
+    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "tbAddExternalFile sbOptions ");
 
     // Each command stands once per menu; what has no handler is never enabled; names are unique.
     std::set<std::string_view> ids;
@@ -279,6 +279,56 @@ TEST(MainWindow, ASourceScanIsReviewedAndWritten) {
     });
     desk.Command("ViewSkipped1");
     desk.ui.Done();
+}
+
+TEST(MainWindow, AConstantScanWiresTheForm) {
+    Desk desk;
+    desk.Open();
+    desk.Select("MainForm");
+    desk.ui.Modal<TfrmFound>([](TfrmFound& found) {
+        found.acModifySource.Execute();
+        return ModalResult::Cancel;
+    });
+    desk.ui.Message("This will apply changes and modify source code. Continue?", ModalResult::Yes)
+        .Message("Source file translated. All string constants added to \"Strings\" property.\r\nYou need to change CONST to "
+                 "VAR declaration or turn ON \"Assignable typed constants\" compiler option!");
+    desk.Command("Const1");
+    const std::string source = desk.services.GetUnitSource((desk.folder / "Main.pas").string());
+    EXPECT_NE(source.find("procedure TMainForm.FormCreate(Sender: TObject);\r\nbegin\r\n  UpdateStrings;\r\n"),
+              std::string::npos)
+        << source;
+    desk.Select("AboutBox");
+    desk.ui.Message("There are no strings in CONST section of \"About\" unit!");
+    desk.Command("Const1");
+    desk.ui.Done();
+}
+
+TEST(MainWindow, ExternalFilesHaveTheirOwnPage) {
+    Desk desk;
+    TfrmGlotta& window = desk.Open();
+    const std::string unit = desk.folder.Put("other/Ext.pas", "unit Ext;\r\n\r\ninterface\r\n\r\nuses\r\n  Forms;\r\n\r\n"
+                                                              "type\r\n  TExtForm = class(TForm)\r\n  end;\r\n\r\n"
+                                                              "implementation\r\n\r\n{$R *.dfm}\r\n\r\nend.\r\n")
+                                 .string();
+    desk.folder.Put("other/Ext.dfm", "object ExtForm: TExtForm\r\nend\r\n");
+    const std::string bare = desk.folder.Put("other/Bare.pas", "unit Bare;\r\nend.\r\n").string();
+    desk.ui.File("", {});
+    desk.Command("tbAddExternalFile");
+    desk.ui.File("", {unit, bare, unit});
+    desk.Command("tbAddExternalFile");
+    EXPECT_TRUE(desk.ui.Transcript().ends_with("Open |Pascal Files(*.pas)|*.pas -> " + unit +
+                                               "\nBringToFront TGlotta Expert (VCL Edition)\n"));
+    ASSERT_EQ(window.lvExternalFiles.RowCount(), 1U);
+    EXPECT_EQ(desk.ide.ModuleCount(), 1); // closed again
+    window.pcForms.Enter(1);
+    EXPECT_FALSE(window.MainMenu.Items.FindDeep("sbCaptions")->Enabled());
+    window.lvExternalFiles.SelectOnly(0);
+    desk.Command("sbCaptions");
+    EXPECT_EQ(desk.editor.log, "Glotta1; ");
+    EXPECT_EQ(window.lvExternalFiles.CellText(0, FormsGrid::FormName) + " " +
+                  window.lvExternalFiles.CellText(0, FormsGrid::Languages),
+              "ExtForm 2");
+    EXPECT_EQ(desk.Status(), "Forms count: 5, Units count: 7, Forms translated: 0 of 5");
 }
 
 TEST(MainWindow, UnitsNeedAFormWithAComponent) {
