@@ -12,11 +12,9 @@ constexpr std::size_t PlaceInSection = 2;
 } // namespace
 
 void TGlottaExpert::Configure() {
-    if (!ports_.ide.menus)
-        return;
+    if (!ports_.ide.menus) return;
     TMenuItem* section = ports_.ide.menus->MainMenu().Items.FindName(settings_.Values().MenuSection);
-    if (!section)
-        return;
+    if (!section) return;
     auto item = std::make_unique<TMenuItem>(MenuCaption, MenuName);
     item->SetShortCut(ShortCutToText(settings_.Values().ShortCut));
     item->OnClick = [this] { RunCommand([this] { RunItemClick(); }); };
@@ -26,8 +24,7 @@ void TGlottaExpert::Configure() {
 // The IDE may have rebuilt its menus, and the item with them: only one that is still there is freed.
 void TGlottaExpert::RemoveMenuItem() {
     TMenuItem* present = ports_.ide.menus ? ports_.ide.menus->MainMenu().Items.FindDeep(MenuName) : nullptr;
-    if (present && present == menuItem_)
-        present->Free();
+    if (present && present == menuItem_) present->Free();
     menuItem_ = nullptr;
 }
 
@@ -50,8 +47,7 @@ TMenuItem* TGlottaExpert::EditorItem(INTAForm& form) const {
 void TGlottaExpert::InstallEditorPopupMenu() {
     ForEachEditWindow([this](INTAForm& form) {
         TPopupMenu* menu = form.FindPopupMenu(EditorMenuName);
-        if (!menu || EditorItem(form))
-            return;
+        if (!menu || EditorItem(form)) return;
         const auto command = [this](void (TGlottaExpert::*act)()) {
             return [this, act] { RunCommand([this, act] { (this->*act)(); }); };
         };
@@ -72,9 +68,9 @@ void TGlottaExpert::PrepareTGlottaEditorMenu() {
     ForEachEditWindow([&](INTAForm& form) {
         TMenuItem* item = EditorItem(form);
         for (std::size_t i = 0; item && i < item->Count(); ++i)
-            if (!(*item)[i].IsSeparator())
-                (*item)[i].SetEnabled(selected);
-        if (TMenuItem* view = item ? item->FindCaption("View translation") : nullptr; view && !ports_.transEditor)
+            if (!(*item)[i].IsSeparator()) (*item)[i].SetEnabled(selected);
+        if (TMenuItem* view = item ? item->FindCaption("View translation") : nullptr;
+            view && !ports_.transEditor)
             view->SetEnabled(false);
     });
 }
@@ -83,8 +79,7 @@ void TGlottaExpert::RemoveEditorPopupMenu() {
     ForEachEditWindow([](INTAForm& form) {
         TPopupMenu* menu = form.FindPopupMenu(EditorMenuName);
         for (std::size_t i = menu ? menu->Items.Count() : 0; i-- > 0;)
-            if (menu->Items[i].Caption() == EditorMenuCaption)
-                menu->Items.Delete(i);
+            if (menu->Items[i].Caption() == EditorMenuCaption) menu->Items.Delete(i);
     });
 }
 

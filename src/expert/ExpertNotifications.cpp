@@ -22,27 +22,26 @@ void TGlottaExpert::FileNotification(TOTAFileNotification code, const std::strin
         Configure();
     }
     switch (code) {
-    case ofnFileOpened: return FileOpened(fileName);
-    case ofnFileClosing: return FileClosing(fileName);
+    case ofnFileOpened:
+        return FileOpened(fileName);
+    case ofnFileClosing:
+        return FileClosing(fileName);
     case ofnActiveProjectChanged:
-        if (window_)
-            RunCommand([this] { RunItemClick(); });
+        if (window_) RunCommand([this] { RunItemClick(); });
     }
 }
 
 void TGlottaExpert::FileOpened(const std::string& fileName) {
-    if (IOTAModule* module = ports_.ide.modules.FindModule(fileName))
-        AddModuleNotifier(nullptr, *module);
-    if (window_ && window_->Visible())
-        RunCommand([&] { window_->UpdateEntries(fileName); });
+    if (IOTAModule* module = ports_.ide.modules.FindModule(fileName)) AddModuleNotifier(nullptr, *module);
+    if (window_ && window_->Visible()) RunCommand([&] { window_->UpdateEntries(fileName); });
 }
 
 void TGlottaExpert::FileClosing(const std::string& fileName) {
-    if (!window_)
-        return;
-    const auto closing = std::find_if(moduleNotifiers_.begin(), moduleNotifiers_.end(), [&](const auto& notifier) {
-        return notifier->Registered() && notifier->Module()->FileName() == fileName;
-    });
+    if (!window_) return;
+    const auto closing =
+        std::find_if(moduleNotifiers_.begin(), moduleNotifiers_.end(), [&](const auto& notifier) {
+            return notifier->Registered() && notifier->Module()->FileName() == fileName;
+        });
     if (closing != moduleNotifiers_.end()) {
         (*closing)->Unregister();
         moduleNotifiers_.erase(closing);
@@ -65,8 +64,7 @@ void TGlottaExpert::AddModuleNotifier(FormsListItem* entry, IOTAModule& module) 
 void TGlottaExpert::AttachNotifiers() {
     for (FormsListItem& item : forms_.items) {
         IOTAModule* module = ports_.ide.modules.FindModule(item.fileName);
-        if (!module)
-            continue;
+        if (!module) continue;
         const auto present = std::find_if(moduleNotifiers_.begin(), moduleNotifiers_.end(),
                                           [&](const auto& notifier) { return notifier->Module() == module; });
         if (present == moduleNotifiers_.end())
@@ -79,17 +77,14 @@ void TGlottaExpert::AttachNotifiers() {
 FormsListItem* TGlottaExpert::EntryOf(const IOTAModuleNotifier& notifier, const std::string& fileName) {
     FormsListItem* ofFile = nullptr;
     for (FormsListItem& item : forms_.items) {
-        if (item.data.lock().get() == &notifier)
-            return &item;
-        if (item.fileName == fileName)
-            ofFile = &item;
+        if (item.data.lock().get() == &notifier) return &item;
+        if (item.fileName == fileName) ofFile = &item;
     }
     return ofFile;
 }
 
 void TGlottaExpert::EntryRenamed() {
-    if (window_)
-        window_->lvFormNames.Refresh();
+    if (window_) window_->lvFormNames.Refresh();
 }
 
 void TGlottaExpert::Forget(const TgxModuleNotifier& notifier) {

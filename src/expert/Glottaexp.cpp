@@ -31,10 +31,8 @@ TGlottaExpert::TGlottaExpert(ExpertPorts ports)
 
 TGlottaExpert::~TGlottaExpert() {
     RemoveSettings();
-    if (notifierIndex_ >= 0)
-        ports_.ide.services->RemoveNotifier(notifierIndex_);
-    if (addInNotifier_)
-        addInNotifier_->Detach();
+    if (notifierIndex_ >= 0) ports_.ide.services->RemoveNotifier(notifierIndex_);
+    if (addInNotifier_) addInNotifier_->Detach();
     while (!moduleNotifiers_.empty()) {
         moduleNotifiers_.front()->Unregister();
         moduleNotifiers_.erase(moduleNotifiers_.begin());
@@ -43,8 +41,7 @@ TGlottaExpert::~TGlottaExpert() {
         editor->NavigateToSource = {};
         editor->ShowAboutBox = {};
     }
-    if (window_)
-        window_->Close(ports_.ui, ModalResult::Cancel);
+    if (window_) window_->Close(ports_.ui, ModalResult::Cancel);
     RunCommand([this] { DestroyProjectSettings(); });
 }
 
@@ -53,15 +50,17 @@ void TGlottaExpert::RunCommand(const std::function<void()>& command) {
 }
 
 void TGlottaExpert::ShowAboutBox() {
-    ports_.ui.MessageDlg(GetName() + "\r\nMakes the forms and units of a project translatable.", MsgType::Information);
+    ports_.ui.MessageDlg(GetName() + "\r\nMakes the forms and units of a project translatable.",
+                         MsgType::Information);
 }
 
 // --- main window ---
 
 void TGlottaExpert::CreateMainWindow() {
     closedWindow_.reset();
-    MainWindowContext context{services_,        settings_,        ports_.registry,   ports_.helper,    results_,
-                              externalFiles_,   projectSettings_, ports_.launcher,   ports_.automation, ports_.transEditor};
+    MainWindowContext context{services_,         settings_,         ports_.registry,  ports_.helper,
+                              results_,          externalFiles_,    projectSettings_, ports_.launcher,
+                              ports_.automation, ports_.transEditor};
     context.ProjectClosed = [this] { ProjectClosed(); };
     context.ReinstallMenu = [this] {
         RemoveSettings();
@@ -82,10 +81,8 @@ void TGlottaExpert::CreateMainWindow() {
 
 void TGlottaExpert::RunItemClick() {
     IOTAProject* project = services_.GetActiveProject();
-    if (!project)
-        return;
-    if (!window_)
-        CreateMainWindow();
+    if (!project) return;
+    if (!window_) CreateMainWindow();
     ProjectClosed();
     window_->FillFromProject(*project);
     AttachNotifiers();
@@ -104,14 +101,12 @@ void TGlottaExpert::InitializeProjectSettings(const std::string& projectFileName
 
 void TGlottaExpert::DestroyProjectSettings() {
     const auto settings = std::move(projectSettings_);
-    if (settings && settings->GetIsChanged())
-        settings->SaveFile();
+    if (settings && settings->GetIsChanged()) settings->SaveFile();
 }
 
 void TGlottaExpert::ProjectClosed() {
     RunCommand([this] { DestroyProjectSettings(); });
-    if (!window_)
-        return;
+    if (!window_) return;
     for (const FormsListItem& item : forms_.items)
         if (const auto held = item.data.lock()) {
             auto* notifier = static_cast<TgxModuleNotifier*>(held.get());
@@ -123,8 +118,7 @@ void TGlottaExpert::ProjectClosed() {
 
 std::weak_ptr<TGlottaExpert> ExpRegister(ExpertPorts ports) {
     IOTAWizardServices* wizards = ports.ide.wizards;
-    if (!wizards)
-        throw Error("The IDE takes no package wizards");
+    if (!wizards) throw Error("The IDE takes no package wizards");
     const auto expert = std::make_shared<TGlottaExpert>(std::move(ports));
     wizards->RegisterPackageWizard(expert);
     return expert;

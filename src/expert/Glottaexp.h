@@ -69,9 +69,11 @@ public:
     void ProjectClosed();
     // The entry that holds the notifier, else the one of the file.
     FormsListItem* EntryOf(const IOTAModuleNotifier& notifier, const std::string& fileName);
-    void EntryRenamed(); // a caption of the list changed
+    void EntryRenamed();                            // a caption of the list changed
     void Forget(const TgxModuleNotifier& notifier); // its module is gone
-    const std::vector<std::shared_ptr<TgxModuleNotifier>>& ModuleNotifiers() const { return moduleNotifiers_; }
+    const std::vector<std::shared_ptr<TgxModuleNotifier>>& ModuleNotifiers() const {
+        return moduleNotifiers_;
+    }
 
     void ShowAboutBox();
 

@@ -11,8 +11,7 @@ namespace {
 
 TgxCustomLang* LocalizationOf(TComponent& root) {
     for (TComponent* component : root.Components())
-        if (auto* glotta = dynamic_cast<TgxCustomLang*>(component))
-            return glotta;
+        if (auto* glotta = dynamic_cast<TgxCustomLang*>(component)) return glotta;
     return nullptr;
 }
 
@@ -21,8 +20,7 @@ TgxCustomLang* LocalizationOf(TComponent& root) {
 void RenameRecords(TgxCustomLang& glotta, const std::string& oldName, const std::string& newName) {
     const std::string before = oldName + ".";
     for (int kind = 0; kind < StringsTypeCount; ++kind) {
-        if (kind == stStrings)
-            continue;
+        if (kind == stStrings) continue;
         std::vector<std::string> records = glotta.Strings(TStringsType(kind)).Items();
         bool changed = false;
         for (std::string& record : records)
@@ -30,33 +28,28 @@ void RenameRecords(TgxCustomLang& glotta, const std::string& oldName, const std:
                 record.replace(0, oldName.size(), newName);
                 changed = true;
             }
-        if (changed)
-            glotta.SetStrings(TStringsType(kind), std::move(records));
+        if (changed) glotta.SetStrings(TStringsType(kind), std::move(records));
     }
 }
 
 } // namespace
 
 void TgxAddInNotifier::FileNotification(TOTAFileNotification code, const std::string& fileName, bool&) {
-    if (expert_)
-        expert_->FileNotification(code, fileName);
+    if (expert_) expert_->FileNotification(code, fileName);
 }
 
 std::shared_ptr<TgxModuleNotifier> TgxModuleNotifier::Create(TGlottaExpert& expert, FormsListItem* entry,
                                                              IOTAModule& module) {
     IOTAFormEditor* form = IdeServices::GetFormEditorFromModule(&module);
-    if (!form)
-        throw EGlottaSilent();
+    if (!form) throw EGlottaSilent();
     std::shared_ptr<TgxModuleNotifier> notifier(new TgxModuleNotifier(expert, module, *form));
-    if (entry)
-        entry->data = notifier;
+    if (entry) entry->data = notifier;
     notifier->index_ = module.AddNotifier(notifier);
     return notifier;
 }
 
 void TgxModuleNotifier::Unregister() {
-    if (index_ > -1 && module_)
-        module_->RemoveNotifier(index_);
+    if (index_ > -1 && module_) module_->RemoveNotifier(index_);
     index_ = -1;
 }
 
@@ -69,12 +62,10 @@ void TgxModuleNotifier::Destroyed() {
 
 void TgxModuleNotifier::ComponentRenamed(TComponent* component, const std::string& oldName,
                                          const std::string& newName) {
-    if (!form_ || oldName.empty() || newName.empty())
-        return;
+    if (!form_ || oldName.empty() || newName.empty()) return;
     TComponent& root = form_->Designer().Root();
     if (component != &root) {
-        if (TgxCustomLang* glotta = LocalizationOf(root))
-            RenameRecords(*glotta, oldName, newName);
+        if (TgxCustomLang* glotta = LocalizationOf(root)) RenameRecords(*glotta, oldName, newName);
         return;
     }
     FormsListItem* entry = expert_.EntryOf(*this, module_->FileName());

@@ -23,14 +23,16 @@ private:
 class TgxModuleNotifier : public IOTAModuleNotifier {
 public:
     // Registered with the module; `entry` may be nil. A module without form is refused by EGlottaSilent.
-    static std::shared_ptr<TgxModuleNotifier> Create(TGlottaExpert& expert, FormsListItem* entry, IOTAModule& module);
+    static std::shared_ptr<TgxModuleNotifier> Create(TGlottaExpert& expert, FormsListItem* entry,
+                                                     IOTAModule& module);
 
     void Unregister();
     bool Registered() const { return index_ > -1; }
     IOTAModule* Module() const { return module_; }
 
     void Destroyed() override;
-    void ComponentRenamed(TComponent* component, const std::string& oldName, const std::string& newName) override;
+    void ComponentRenamed(TComponent* component, const std::string& oldName,
+                          const std::string& newName) override;
 
 private:
     TgxModuleNotifier(TGlottaExpert& expert, IOTAModule& module, IOTAFormEditor& form)

@@ -19,8 +19,7 @@ std::optional<TransEditorPlace> FindIdentifier(const TgxCustomLang& glotta, cons
     for (int kind = 0; kind < StringsTypeCount; ++kind) {
         const TStringList& records = glotta.Strings(TStringsType(kind));
         for (std::size_t i = 0; i < records.Count(); ++i)
-            if (records[i].starts_with(start))
-                return TransEditorPlace{TStringsType(kind), int(i)};
+            if (records[i].starts_with(start)) return TransEditorPlace{TStringsType(kind), int(i)};
     }
     return {};
 }
@@ -29,13 +28,11 @@ std::optional<TransEditorPlace> FindIdentifier(const TgxCustomLang& glotta, cons
 
 bool TGlottaExpert::CurrentFileIsInProject() {
     IOTASourceEditor* editor = services_.GetCurrentSourceEditor();
-    if (!editor)
-        return false;
+    if (!editor) return false;
     const std::string file = editor->FileName();
     IOTAProject* project = services_.GetActiveProject();
     const auto isFile = [&](const IOTAModuleInfo& info) { return SameFileName(info.fileName, file); };
-    if (project && std::any_of(project->Modules().begin(), project->Modules().end(), isFile))
-        return true;
+    if (project && std::any_of(project->Modules().begin(), project->Modules().end(), isFile)) return true;
     ports_.ui.MessageDlg("Current project doesn't include " + file + " file!", MsgType::Error);
     return false;
 }
@@ -50,8 +47,7 @@ void TGlottaExpert::MarkUnTranslatableSourceMenuClick() {
 
 void TGlottaExpert::TranslateSourceMenuClick() {
     RunItemClick();
-    if (!CurrentFileIsInProject() || !window_)
-        return;
+    if (!CurrentFileIsInProject() || !window_) return;
     struct SelectionMode {
         explicit SelectionMode(int& marker) : marker_(marker) { marker_ = IdeServices::SelectionMarker; }
         ~SelectionMode() { marker_ = 0; }
@@ -70,11 +66,9 @@ void TGlottaExpert::TranslateSourceMenuClick() {
 void TGlottaExpert::ViewTranslationByIDMenuClick() {
     const std::string id = GetSelectedSourceText();
     RunItemClick();
-    if (!CurrentFileIsInProject())
-        return;
+    if (!CurrentFileIsInProject()) return;
     const auto selected = forms_.Selected();
-    if (selected.empty() || !window_ || !ports_.transEditor)
-        return;
+    if (selected.empty() || !window_ || !ports_.transEditor) return;
     const FormsListItem form = *selected.front();
     TgxCustomLang* glotta = window_->Translation().GetGlotta(form.formName);
     if (!glotta) {
@@ -86,8 +80,7 @@ void TGlottaExpert::ViewTranslationByIDMenuClick() {
         ports_.ui.MessageDlg(id + " is not used as string identifier!", MsgType::Error);
         return;
     }
-    if (ports_.transEditor->TransEditorDlg(*glotta, place))
-        services_.MarkModifiedForm(form.fileName);
+    if (ports_.transEditor->TransEditorDlg(*glotta, place)) services_.MarkModifiedForm(form.fileName);
 }
 
 } // namespace glotta

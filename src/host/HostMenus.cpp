@@ -3,8 +3,8 @@
 namespace glotta {
 
 HostMenus::HostMenus() {
-    constexpr const char* Captions[] = {"&File", "&Edit", "&Search", "&View", "&Project",
-                                        "&Run", "&Component", "&Tools", "&Help"};
+    constexpr const char* Captions[] = {"&File", "&Edit",      "&Search", "&View", "&Project",
+                                        "&Run",  "&Component", "&Tools",  "&Help"};
     static_assert(std::size(Captions) == std::size(MenuSections));
     for (std::size_t i = 0; i < std::size(Captions); ++i)
         mainMenu_.Items.Add(Captions[i], std::string(MenuSections[i]));

@@ -22,8 +22,7 @@ public:
     template <class Act> void ForEach(Act act) {
         const auto listening = notifiers_;
         for (const auto& [index, notifier] : listening)
-            if (notifiers_.contains(index))
-                act(*notifier);
+            if (notifiers_.contains(index)) act(*notifier);
     }
     // The object that they listen to goes away.
     void Destroy() {
@@ -38,7 +37,9 @@ private:
 
 class Notifications : public IOTAServices {
 public:
-    int AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) override { return notifiers_.Add(std::move(notifier)); }
+    int AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) override {
+        return notifiers_.Add(std::move(notifier));
+    }
     void RemoveNotifier(int index) override { notifiers_.Remove(index); }
 
     // False when a notifier forbids it.
@@ -51,7 +52,9 @@ private:
 // The experts that packages brought.
 class Wizards : public IOTAWizardServices {
 public:
-    void RegisterPackageWizard(std::shared_ptr<IOTAWizard> wizard) override { wizards_.push_back(std::move(wizard)); }
+    void RegisterPackageWizard(std::shared_ptr<IOTAWizard> wizard) override {
+        wizards_.push_back(std::move(wizard));
+    }
     // Unloads the packages, the last one first.
     void UnloadAll();
     std::size_t Count() const { return wizards_.size(); }

@@ -6,7 +6,8 @@
 
 namespace glotta {
 
-// EGlottaSilent ends the command without a word, every other failure with its message. True when it came to its end.
+// EGlottaSilent ends the command without a word, every other failure with its message. True when it came to
+// its end.
 bool RunCommand(Ui& ui, const std::function<void()>& command);
 
 } // namespace glotta

@@ -23,16 +23,14 @@ constexpr std::array<ColumnRule, FormsGrid::Columns> Rules = {{{"Form Name", &Fo
                                                                {"TGlotta", &FormsListItem::glotta}}};
 
 int LanguageCount(const FormsListItem& item) {
-    if (const auto count = StrToInt(item.languages))
-        return *count;
+    if (const auto count = StrToInt(item.languages)) return *count;
     throw Error("'" + item.languages + "' is not a valid integer value");
 }
 
 } // namespace
 
 int CompareFormItems(const FormsListItem& a, const FormsListItem& b, int column) {
-    if (column == FormsGrid::Languages)
-        return LanguageCount(a) > LanguageCount(b) ? 1 : -1;
+    if (column == FormsGrid::Languages) return LanguageCount(a) > LanguageCount(b) ? 1 : -1;
     const auto text = Rules[std::size_t(column)].text;
     return CompareText(a.*text, b.*text);
 }
@@ -46,28 +44,25 @@ std::string FormsGrid::CellText(std::size_t row, std::size_t column) const {
 }
 
 void FormsGrid::Sort(std::size_t column, bool) {
-    if (OnColumnClick)
-        OnColumnClick(column);
+    if (OnColumnClick) OnColumnClick(column);
 }
 
-// The comparison by "Languages" never calls two entries equal, which no sorting algorithm can take: of entries that
-// differ in neither direction the one that stood first counts as the lesser, which is what the comparison answers.
+// The comparison by "Languages" never calls two entries equal, which no sorting algorithm can take: of
+// entries that differ in neither direction the one that stood first counts as the lesser, which is what the
+// comparison answers.
 void FormsGrid::SortBy(int column, int order) {
-    if (column < 0 || column >= int(Columns) || order == 0)
-        return;
+    if (column < 0 || column >= int(Columns) || order == 0) return;
     auto& items = list_.items;
     const bool neverEqual = column == Languages;
     for (const FormsListItem& item : items)
-        if (neverEqual)
-            LanguageCount(item);
+        if (neverEqual) LanguageCount(item);
     sorting_ = {column, order < 0};
     std::vector<std::size_t> rows(items.size());
     std::iota(rows.begin(), rows.end(), 0);
     std::sort(rows.begin(), rows.end(), [&](std::size_t a, std::size_t b) {
         const int forth = CompareFormItems(items[a], items[b], column);
         const int back = CompareFormItems(items[b], items[a], column);
-        if (forth != back && forth != 0)
-            return forth * order < 0;
+        if (forth != back && forth != 0) return forth * order < 0;
         return neverEqual && order < 0 ? b < a : a < b;
     });
     std::vector<FormsListItem> sorted;
@@ -102,8 +97,7 @@ void FormsGrid::Replaced() {
 }
 
 void FormsGrid::SelectionToList() {
-    if (loading_)
-        return;
+    if (loading_) return;
     for (std::size_t row = 0; row < list_.items.size(); ++row) {
         list_.items[row].selected = IsSelected(row);
         list_.items[row].focused = int(row) == Row();
@@ -113,8 +107,7 @@ void FormsGrid::SelectionToList() {
 void FormsGrid::SelectionFromList() {
     loading_ = true;
     for (std::size_t row = 0; row < list_.items.size(); ++row)
-        if (IsSelected(row) != list_.items[row].selected)
-            Select(row, list_.items[row].selected);
+        if (IsSelected(row) != list_.items[row].selected) Select(row, list_.items[row].selected);
     loading_ = false;
     CellsChanged();
 }

@@ -25,8 +25,8 @@ struct MainCommand {
     std::string_view hint;    // "short|long"
     int tag = Always;
     std::string_view shortcut = {};
-    void (TfrmGlotta::*execute)() = nullptr; // nil: not there yet, and disabled
-    bool button = false;                      // stands in the tool bar
+    void (TfrmGlotta::*execute)() = nullptr;     // nil: not there yet, and disabled
+    bool button = false;                         // stands in the tool bar
     bool (TfrmGlotta::*ready)() const = nullptr; // what else it needs
     bool (TfrmGlotta::*checked)() const = nullptr;
     std::string_view popupCaption = {}; // where it differs

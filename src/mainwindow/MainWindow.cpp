@@ -73,8 +73,7 @@ void TfrmGlotta::FillFromProject(IOTAProject& project) {
     lvFormNames.Replaced();
     for (const std::string& error : errors)
         for (const FormsListItem& item : forms.items)
-            if (error.starts_with(FormFileOf(item.fileName, ".")))
-                lvFormNames.SetNote(item.fileName, error);
+            if (error.starts_with(FormFileOf(item.fileName, "."))) lvFormNames.SetNote(item.fileName, error);
 }
 
 void TfrmGlotta::ClearProject() {
@@ -87,8 +86,7 @@ void TfrmGlotta::ClearProject() {
 bool TfrmGlotta::ReadOpenForm(FormsListItem& item) {
     IOTAModule* module = context_.ide.Ide().modules.FindModule(item.fileName);
     IOTAFormEditor* editor = IdeServices::GetFormEditorFromModule(module);
-    if (!editor)
-        return false;
+    if (!editor) return false;
     item.formName = editor->Designer().Root().Name();
     item.languages = "0";
     item.glotta.clear();
@@ -105,8 +103,7 @@ bool TfrmGlotta::ReadOpenForm(FormsListItem& item) {
 void TfrmGlotta::UpdateEntries(const std::string& fileName) {
     for (FormsGrid* list : {&lvFormNames, &lvExternalFiles})
         for (FormsListItem& item : list->List().items)
-            if (SameText(item.fileName, fileName) && ReadOpenForm(item))
-                list->Refresh();
+            if (SameText(item.fileName, fileName) && ReadOpenForm(item)) list->Refresh();
     UpdateStatusBar();
 }
 
@@ -114,12 +111,10 @@ void TfrmGlotta::OpenAllForms() {
     Progress progress(UiPort(), "Opening forms...");
     IOTASourceEditor* const inFront = context_.ide.GetCurrentSourceEditor();
     for (FormsListItem& item : lvFormNames.List().items) {
-        if (!context_.ide.OpenFile(item.fileName, false))
-            continue;
+        if (!context_.ide.OpenFile(item.fileName, false)) continue;
         IOTAFormEditor* editor =
             IdeServices::GetFormEditorFromModule(context_.ide.Ide().modules.FindModule(item.fileName));
-        if (!editor)
-            continue;
+        if (!editor) continue;
         for (TComponent* component : editor->Designer().Root().Components())
             if (SameText(component->ClassName(), componentClass_)) {
                 if (const auto* glotta = dynamic_cast<TgxCustomLang*>(component))
@@ -128,21 +123,18 @@ void TfrmGlotta::OpenAllForms() {
                 break;
             }
     }
-    if (inFront && context_.ide.GetCurrentSourceEditor() != inFront)
-        inFront->Show();
+    if (inFront && context_.ide.GetCurrentSourceEditor() != inFront) inFront->Show();
 }
 
 void TfrmGlotta::Open() {
-    if (context_.settings.Values().OpenAllForms)
-        OpenAllForms();
+    if (context_.settings.Values().OpenAllForms) OpenAllForms();
     if (Visible()) {
         UiPort().BringToFront(*this);
     } else {
         FormShow();
         Visible.Set(true);
         UiPort().Show(*this);
-        if (Dockable() && CanDock())
-            context_.DockWindow(true);
+        if (Dockable() && CanDock()) context_.DockWindow(true);
     }
     lvFormNamesColumnClick(std::size_t(std::max(context_.settings.Values().SortedColumn, 0)));
     SelectCurrentEditor();
@@ -158,8 +150,7 @@ void TfrmGlotta::ShowFilled() {
 
 void TfrmGlotta::SelectCurrentEditor() {
     IOTASourceEditor* editor = context_.ide.GetCurrentSourceEditor();
-    if (!editor)
-        return;
+    if (!editor) return;
     const std::string file = editor->FileName();
     const auto& items = lvFormNames.List().items;
     const auto isCurrent = [&](const FormsListItem& item) {
@@ -167,8 +158,7 @@ void TfrmGlotta::SelectCurrentEditor() {
                SameText(FormFileOf(item.fileName, ".xfm"), file);
     };
     const auto found = std::find_if(items.begin(), items.end(), isCurrent);
-    if (found != items.end())
-        lvFormNames.SelectOnly(int(found - items.begin()));
+    if (found != items.end()) lvFormNames.SelectOnly(int(found - items.begin()));
 }
 
 void TfrmGlotta::FillProjectForms(std::vector<std::string>& list) const {
@@ -180,11 +170,10 @@ void TfrmGlotta::FillProjectForms(std::vector<std::string>& list) const {
 // --- state ---
 
 void TfrmGlotta::UpdateStatusBar() {
-    if (destroying_)
-        return;
+    if (destroying_) return;
     const auto& items = lvFormNames.List().items;
-    const auto translated =
-        std::count_if(items.begin(), items.end(), [](const FormsListItem& item) { return !item.glotta.empty(); });
+    const auto translated = std::count_if(items.begin(), items.end(),
+                                          [](const FormsListItem& item) { return !item.glotta.empty(); });
     const std::string count = std::to_string(items.size());
     StatusBar[0].Set("Forms count: " + count);
     StatusBar[1].Set("Units count: " + std::to_string(unitCount_));
@@ -193,9 +182,10 @@ void TfrmGlotta::UpdateStatusBar() {
 
 void TfrmGlotta::SelectionChanged() {
     if (const auto rows = lvFormNames.SelectedRows(); !rows.empty()) {
-        const bool currentToo = lvFormNames.Row() >= 0 && lvFormNames.IsSelected(std::size_t(lvFormNames.Row()));
-        componentClass_ =
-            lvFormNames.CellText(currentToo ? std::size_t(lvFormNames.Row()) : rows.front(), FormsGrid::Glotta);
+        const bool currentToo =
+            lvFormNames.Row() >= 0 && lvFormNames.IsSelected(std::size_t(lvFormNames.Row()));
+        componentClass_ = lvFormNames.CellText(currentToo ? std::size_t(lvFormNames.Row()) : rows.front(),
+                                               FormsGrid::Glotta);
     }
     CheckEnableActions();
 }
@@ -209,8 +199,7 @@ void TfrmGlotta::lvFormNamesColumnClick(std::size_t column) {
 
 void TfrmGlotta::lvFormNamesDblClick(std::size_t row) {
     Run([&] {
-        if (row < ActiveList().RowCount())
-            translation_.InsertTGlotta(ActiveList().List().items[row]);
+        if (row < ActiveList().RowCount()) translation_.InsertTGlotta(ActiveList().List().items[row]);
     });
 }
 
@@ -227,11 +216,9 @@ void TfrmGlotta::FormShow() {
 bool TfrmGlotta::CloseQuery(Ui& ui, ModalResult) {
     RunCommand(ui, [this] { SaveState(); });
     FreeServer();
-    if (context_.ProjectClosed)
-        RunCommand(ui, context_.ProjectClosed);
+    if (context_.ProjectClosed) RunCommand(ui, context_.ProjectClosed);
     Visible.Set(false);
-    if (context_.WindowClosed)
-        context_.WindowClosed();
+    if (context_.WindowClosed) context_.WindowClosed();
     return true;
 }
 
@@ -257,8 +244,7 @@ void TfrmGlotta::SaveState() {
 // --- dictionary manager ---
 
 void TfrmGlotta::CreateServer() {
-    if (!server_)
-        server_ = context_.automation.CreateObject(DictionaryServer);
+    if (!server_) server_ = context_.automation.CreateObject(DictionaryServer);
 }
 
 void TfrmGlotta::FreeServer() {

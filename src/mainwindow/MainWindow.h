@@ -75,7 +75,8 @@ public:
 
     // Fills the list from the active project, one row per module that has a form.
     void FillFromProject(IOTAProject& project);
-    // Shows the filled window: opens all forms where that is wished, sorts, and selects the current editor's form.
+    // Shows the filled window: opens all forms where that is wished, sorts, and selects the current editor's
+    // form.
     void Open();
     void ClearProject(); // empties the list
     void ShowFilled();   // after a command: rows, selection, status and enabled commands as they are now
@@ -135,7 +136,8 @@ private:
         std::string unit, form;
     };
     void BuildMenus();
-    void AddCommand(TMenuItem& parent, const MainCommand& command, std::string_view itemCaption, bool isButton);
+    void AddCommand(TMenuItem& parent, const MainCommand& command, std::string_view itemCaption,
+                    bool isButton);
     void BuildWizardsMenu();
     bool IsEnabled(const BoundItem& bound) const;
     // Runs to its end, its message or its silence, and shows what it changed.

@@ -24,11 +24,9 @@ void TfrmGlotta::sbLanguagesClick() {
 
 void TfrmGlotta::ViewForm1Click() {
     for (const FormsListItem* item : context_.ide.Forms().Selected()) {
-        if (!context_.ide.OpenFile(item->fileName, true))
-            throw EGlottaSilent();
+        if (!context_.ide.OpenFile(item->fileName, true)) throw EGlottaSilent();
         IOTAModule* module = context_.ide.GetModuleFromFileName(item->fileName);
-        if (IOTAFormEditor* editor = IdeServices::GetFormEditorFromModule(module))
-            editor->Show();
+        if (IOTAFormEditor* editor = IdeServices::GetFormEditorFromModule(module)) editor->Show();
     }
 }
 
@@ -42,8 +40,7 @@ void TfrmGlotta::tbAddExternalFileClick() {
     dialog.defaultExtension = "pas";
     dialog.filter = "Pascal Files(*.pas)|*.pas";
     dialog.allowMultiSelect = true;
-    if (!UiPort().Execute(dialog))
-        return;
+    if (!UiPort().Execute(dialog)) return;
     for (const std::string& file : dialog.files)
         AddExternalFile(file);
     UiPort().BringToFront(*this);
@@ -51,8 +48,7 @@ void TfrmGlotta::tbAddExternalFileClick() {
 
 void TfrmGlotta::AddExternalFile(const std::string& fileName) {
     const bool wasOpen = context_.ide.IsFileOpen(fileName);
-    if (!context_.ide.OpenFile(fileName, true))
-        throw EGlottaSilent();
+    if (!context_.ide.OpenFile(fileName, true)) throw EGlottaSilent();
     FormsListItem item;
     IOTAModule* module = context_.ide.Ide().modules.FindModule(fileName);
     item.fileName = module ? module->FileName() : fileName;
@@ -61,17 +57,16 @@ void TfrmGlotta::AddExternalFile(const std::string& fileName) {
     const bool listed = std::any_of(items.begin(), items.end(), [&](const FormsListItem& other) {
         return SameFileName(other.fileName, item.fileName);
     });
-    if (!listed && ReadOpenForm(item))
-        lvExternalFiles.Add(std::move(item));
-    if (!wasOpen)
-        context_.ide.CloseFile(fileName);
+    if (!listed && ReadOpenForm(item)) lvExternalFiles.Add(std::move(item));
+    if (!wasOpen) context_.ide.CloseFile(fileName);
 }
 
 // --- hard-coded strings ---
 
 void TfrmGlotta::ScanForms(const std::function<void(ScanCommands&, FormsListItem&)>& scan) {
-    ScanReplace driver({context_.ide, context_.settings, context_.registry, context_.helper, context_.results},
-                       ScanReplace::Review::Dialog);
+    ScanReplace driver(
+        {context_.ide, context_.settings, context_.registry, context_.helper, context_.results},
+        ScanReplace::Review::Dialog);
     ScanCommands commands{translation_, driver, context_.ide};
     for (FormsListItem* item : context_.ide.Forms().Selected())
         scan(commands, *item);
@@ -79,7 +74,9 @@ void TfrmGlotta::ScanForms(const std::function<void(ScanCommands&, FormsListItem
 
 void TfrmGlotta::Translatesource1Click() {
     const bool selectionOnly = context_.ide.modeMarker == IdeServices::SelectionMarker;
-    ScanForms([&](ScanCommands& commands, FormsListItem& item) { commands.Translatesource1Click(item, selectionOnly); });
+    ScanForms([&](ScanCommands& commands, FormsListItem& item) {
+        commands.Translatesource1Click(item, selectionOnly);
+    });
 }
 
 void TfrmGlotta::Const1Click() {
@@ -104,12 +101,11 @@ std::vector<std::string> TfrmGlotta::UnitsToScan() {
 std::optional<TfrmGlotta::UnitChoice> TfrmGlotta::ChooseUnit() {
     std::vector<std::string> forms;
     for (const FormsListItem& item : lvFormNames.List().items)
-        if (item.languages != "0")
-            forms.push_back(item.formName);
-    if (forms.empty())
-        return UnitChoice{};
-    std::string preferred =
-        context_.projectSettings ? context_.projectSettings->GetOptionValue("DefaultFormForUnits") : std::string();
+        if (item.languages != "0") forms.push_back(item.formName);
+    if (forms.empty()) return UnitChoice{};
+    std::string preferred = context_.projectSettings
+                                ? context_.projectSettings->GetOptionValue("DefaultFormForUnits")
+                                : std::string();
     if (std::find(forms.begin(), forms.end(), preferred) == forms.end())
         preferred = forms.size() == 1 ? forms.front() : std::string();
 
@@ -118,20 +114,18 @@ std::optional<TfrmGlotta::UnitChoice> TfrmGlotta::ChooseUnit() {
     dialog.SetUnits(units);
     dialog.cbFormNames.Set(preferred);
     dialog.SetFormNames(forms);
-    if (units.size() == 1)
-        dialog.lbUnits.SelectOnly(0);
-    if (UiPort().ShowModal(dialog) != ModalResult::OK)
-        return {};
+    if (units.size() == 1) dialog.lbUnits.SelectOnly(0);
+    if (UiPort().ShowModal(dialog) != ModalResult::OK) return {};
     return UnitChoice{dialog.UnitName(), dialog.FormName()};
 }
 
 void TfrmGlotta::ScanUnit(const std::function<void(ScanCommands&, const UnitChoice&)>& scan) {
     context_.ide.UseForms(lvFormNames.List()); // whatever page shows
     const std::optional<UnitChoice> choice = ChooseUnit();
-    if (!choice)
-        return;
-    ScanReplace driver({context_.ide, context_.settings, context_.registry, context_.helper, context_.results},
-                       ScanReplace::Review::Dialog);
+    if (!choice) return;
+    ScanReplace driver(
+        {context_.ide, context_.settings, context_.registry, context_.helper, context_.results},
+        ScanReplace::Review::Dialog);
     ScanCommands commands{translation_, driver, context_.ide};
     scan(commands, *choice);
 }
@@ -163,11 +157,9 @@ void TfrmGlotta::sbOptionsClick() {
                        {NamesArray.begin(), NamesArray.end()});
     dialog.ShowHelp = context_.ShowHelp;
     dialog.Fill(context_.settings.Values());
-    if (UiPort().ShowModal(dialog) != ModalResult::OK)
-        return;
+    if (UiPort().ShowModal(dialog) != ModalResult::OK) return;
     dialog.Apply(context_.settings);
-    if (context_.ReinstallMenu)
-        context_.ReinstallMenu();
+    if (context_.ReinstallMenu) context_.ReinstallMenu();
 }
 
 void TfrmGlotta::StayOnTop1Click() {

@@ -35,10 +35,9 @@ void TfrmGlotta::BuildMenus() {
         if (!command.menu.empty())
             AddCommand(Submenu(MainMenu.Items, command.menu), command, command.caption, false);
         if (!command.popup.empty())
-            AddCommand(command.popup == "." ? PopupMenu.Items : Submenu(PopupMenu.Items, command.popup), command,
-                       command.popupCaption.empty() ? command.caption : command.popupCaption, false);
-        if (command.button)
-            AddCommand(ToolBar.Items, command, command.caption, true);
+            AddCommand(command.popup == "." ? PopupMenu.Items : Submenu(PopupMenu.Items, command.popup),
+                       command, command.popupCaption.empty() ? command.caption : command.popupCaption, false);
+        if (command.button) AddCommand(ToolBar.Items, command, command.hint.substr(0, command.hint.find('|')), true);
     }
     BuildWizardsMenu();
 }
@@ -46,14 +45,11 @@ void TfrmGlotta::BuildMenus() {
 void TfrmGlotta::AddCommand(TMenuItem& parent, const MainCommand& command, std::string_view itemCaption,
                             bool isButton) {
     TMenuItem& item = parent.Add(std::string(itemCaption), std::string(command.id));
-    if (item.IsSeparator())
-        return;
+    if (item.IsSeparator()) return;
     item.SetHint(std::string(command.hint));
     item.SetTag(command.tag);
-    if (command.button)
-        item.SetImage(std::string(command.id));
-    if (!isButton)
-        item.SetShortCut(std::string(command.shortcut));
+    if (command.button) item.SetImage(std::string(command.id));
+    if (!isButton) item.SetShortCut(std::string(command.shortcut));
     item.OnClick = [this, &command] { Run([&] { (this->*command.execute)(); }); };
     bound_.push_back({&item, &command, isButton});
 }
@@ -70,8 +66,7 @@ void TfrmGlotta::BuildWizardsMenu() {
     auto menu = std::make_unique<TMenuItem>("&Wizards", "Wizards1");
     for (int i = 0;; ++i) {
         const auto name = context_.registry.ReadString(WizardsKey, Numbered("WizardName", i));
-        if (!name)
-            break;
+        if (!name) break;
         TMenuItem& item = menu->Add(*name);
         item.SetTag(-i);
         item.OnClick = [this, tag = -i] { Run([&] { WizardItemClick(tag); }); };
@@ -90,18 +85,17 @@ void TfrmGlotta::WizardItemClick(int tag) {
     }
     IOTAProject* project = context_.ide.GetActiveProject();
     const auto selected = ActiveList().SelectedRows();
-    const std::string form = selected.empty() ? "" : ActiveList().CellText(selected.front(), FormsGrid::FileName);
-    context_.launcher.Open(program, "-p \"" + (project ? project->FileName() : "") + "\" -s \"" + form + "\"");
+    const std::string form =
+        selected.empty() ? "" : ActiveList().CellText(selected.front(), FormsGrid::FileName);
+    context_.launcher.Open(program,
+                           "-p \"" + (project ? project->FileName() : "") + "\" -s \"" + form + "\"");
 }
 
 bool TfrmGlotta::IsEnabled(const BoundItem& bound) const {
     const MainCommand& command = *bound.command;
-    if (!command.execute || (command.ready && !(this->*command.ready)()))
-        return false;
-    if (command.tag <= 0)
-        return true;
-    if (command.tag == MergeProject && !bound.isButton)
-        return true;
+    if (!command.execute || (command.ready && !(this->*command.ready)())) return false;
+    if (command.tag <= 0) return true;
+    if (command.tag == MergeProject && !bound.isButton) return true;
     const auto selected = ActiveList().SelectedRows();
     if (command.tag == LocalizedForm && !bound.isButton)
         return !selected.empty() && !ActiveList().CellText(selected.front(), FormsGrid::Glotta).empty();
@@ -111,8 +105,7 @@ bool TfrmGlotta::IsEnabled(const BoundItem& bound) const {
 void TfrmGlotta::CheckEnableActions() {
     for (const BoundItem& bound : bound_) {
         bound.item->SetEnabled(IsEnabled(bound));
-        if (bound.command->checked)
-            bound.item->SetChecked((this->*bound.command->checked)());
+        if (bound.command->checked) bound.item->SetChecked((this->*bound.command->checked)());
     }
 }
 

@@ -6,8 +6,8 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include <objbase.h>
 #include <oaidl.h>
+#include <objbase.h>
 #include <system_error>
 #endif
 
@@ -20,8 +20,7 @@ namespace {
 struct ComApartment {
     ComApartment() : entered(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
     ~ComApartment() {
-        if (entered)
-            CoUninitialize();
+        if (entered) CoUninitialize();
     }
     bool entered;
 };
@@ -41,7 +40,8 @@ public:
     std::string ClassIdOf(const std::string& progId) override {
         CLSID id;
         wchar_t text[64] = {};
-        if (FAILED(CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id)) || !StringFromGUID2(id, text, 64))
+        if (FAILED(CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id)) ||
+            !StringFromGUID2(id, text, 64))
             return {};
         return PathText(std::filesystem::path(text));
     }
@@ -50,10 +50,8 @@ public:
         CLSID id;
         void* object = nullptr;
         HRESULT result = CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id);
-        if (SUCCEEDED(result))
-            result = CoCreateInstance(id, nullptr, CLSCTX_SERVER, IID_IDispatch, &object);
-        if (FAILED(result))
-            throw Error(progId + ": " + std::system_category().message(int(result)));
+        if (SUCCEEDED(result)) result = CoCreateInstance(id, nullptr, CLSCTX_SERVER, IID_IDispatch, &object);
+        if (FAILED(result)) throw Error(progId + ": " + std::system_category().message(int(result)));
         return std::make_unique<ComObject>(static_cast<IDispatch*>(object));
     }
 };

@@ -26,8 +26,8 @@ class ShellLauncher : public Launcher {
 public:
     void Open(const std::string& file, const std::string& parameters) override {
         const std::wstring name = PathFromText(file).wstring(), line = PathFromText(parameters).wstring();
-        const auto result = reinterpret_cast<INT_PTR>(
-            ShellExecuteW(nullptr, L"open", name.c_str(), line.empty() ? nullptr : line.c_str(), nullptr, SW_SHOWNORMAL));
+        const auto result = reinterpret_cast<INT_PTR>(ShellExecuteW(
+            nullptr, L"open", name.c_str(), line.empty() ? nullptr : line.c_str(), nullptr, SW_SHOWNORMAL));
         if (result <= 32) // error codes of old
             throw Error(file + ": " + std::system_category().message(int(GetLastError())));
     }
@@ -41,14 +41,12 @@ std::vector<std::string> SplitParameters(const std::string& line) {
     for (const char c : line) {
         if (c == '"') {
             quoted = !quoted;
-            if (quoted && !open)
-                words.emplace_back();
+            if (quoted && !open) words.emplace_back();
             open = true;
         } else if (c == ' ' && !quoted) {
             open = false;
         } else {
-            if (!open)
-                words.emplace_back();
+            if (!open) words.emplace_back();
             open = true;
             words.back() += c;
         }
@@ -64,8 +62,7 @@ int StartProgram(std::vector<std::string> words) {
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     int report[2];
-    if (pipe(report) != 0)
-        return errno;
+    if (pipe(report) != 0) return errno;
     fcntl(report[1], F_SETFD, FD_CLOEXEC);
     const pid_t starter = fork();
     if (starter < 0) {
@@ -86,8 +83,7 @@ int StartProgram(std::vector<std::string> words) {
     }
     close(report[1]);
     int failure = 0;
-    if (read(report[0], &failure, sizeof failure) != sizeof failure)
-        failure = 0;
+    if (read(report[0], &failure, sizeof failure) != sizeof failure) failure = 0;
     close(report[0]);
     waitpid(starter, nullptr, 0);
     return failure;
@@ -96,11 +92,11 @@ int StartProgram(std::vector<std::string> words) {
 class ProcessLauncher : public Launcher {
 public:
     void Open(const std::string& file, const std::string& parameters) override {
-        const bool program = access(file.c_str(), X_OK) == 0 && !std::filesystem::is_directory(PathFromText(file));
+        const bool program =
+            access(file.c_str(), X_OK) == 0 && !std::filesystem::is_directory(PathFromText(file));
         std::vector<std::string> words = SplitParameters(parameters);
         words.insert(words.begin(), file);
-        if (!program)
-            words.insert(words.begin(), "xdg-open");
+        if (!program) words.insert(words.begin(), "xdg-open");
         if (const int failure = StartProgram(words))
             throw Error(words.front() + ": " + std::generic_category().message(failure));
     }

@@ -8,8 +8,9 @@ namespace glotta {
 class Launcher {
 public:
     virtual ~Launcher() = default;
-    // The verb "open" in a normal window. `parameters` is one command line: blanks separate, double quotes hold
-    // together. Without parameters a document opens in its own program. Throws Error when nothing can be started.
+    // The verb "open" in a normal window. `parameters` is one command line: blanks separate, double quotes
+    // hold together. Without parameters a document opens in its own program. Throws Error when nothing can be
+    // started.
     virtual void Open(const std::string& file, const std::string& parameters) = 0;
 };
 

@@ -24,7 +24,8 @@ public:
     // Shows where the unit uses the identifier, in front of all windows with `activate`; false when nowhere.
     std::function<bool(const std::string& id, bool activate)> NavigateToSource;
     std::function<void()> ShowAboutBox;
-    // A string's identifier was changed and is to be changed in the source; without it the source stays as it is.
+    // A string's identifier was changed and is to be changed in the source; without it the source stays as it
+    // is.
     std::function<void(const std::string& before, const std::string& id)> OnChangeStrID;
 };
 

@@ -9,8 +9,7 @@ std::optional<FormPlacement> TgxFormStorage::ReadPlacement() const {
     const auto number = [&](std::string_view name) { return store.ReadInteger({}, name, 0); };
     const FormPlacement placement{number("Left"), number("Top"), number("Width"), number("Height"),
                                   store.ReadBool({}, "Maximized", false)};
-    if (placement.width <= 0 || placement.height <= 0)
-        return {};
+    if (placement.width <= 0 || placement.height <= 0) return {};
     return placement;
 }
 

@@ -16,8 +16,7 @@ constexpr const char* InputPrompt = "Enter new language name:";
 constexpr int DefaultPreviewLines = 5;
 
 int NumberIn(const TField<std::string>& edit) {
-    if (const auto number = StrToInt(edit()))
-        return *number;
+    if (const auto number = StrToInt(edit())) return *number;
     throw Error("'" + edit() + "' is not a valid integer value");
 }
 
@@ -50,7 +49,8 @@ int TComboBox::ItemIndex() const {
     return found == Items.end() ? -1 : int(found - Items.begin());
 }
 
-TfrmOptions::TfrmOptions(Ui& ui, std::vector<std::string> replaceMethods, std::vector<std::string> componentNames)
+TfrmOptions::TfrmOptions(Ui& ui, std::vector<std::string> replaceMethods,
+                         std::vector<std::string> componentNames)
     : ui_(ui) {
     caption = "Options";
     cbMenuItems.Items = {"FileMenu", "EditMenu",      "SearchMenu", "ViewsMenu", "ProjectMenu",
@@ -91,8 +91,7 @@ void TfrmOptions::SwitchPage() {
 
 void TfrmOptions::memSkipWordsChange() {
     const bool usable = !Trim(memSkipWords()).empty();
-    if (!usable)
-        ckbUseREtoSkip.Set(false);
+    if (!usable) ckbUseREtoSkip.Set(false);
     ckbUseREtoSkip.Enable(usable);
 }
 
@@ -100,7 +99,8 @@ void TfrmOptions::memSkipWordsChange() {
 
 void TfrmOptions::RenameLanguage() {
     const std::size_t row = lbLangNames.SelectedRows().front();
-    if (const auto name = ui_.InputBox(InputTitle, InputPrompt, lbLangNames.Items()[row]); name && !name->empty())
+    if (const auto name = ui_.InputBox(InputTitle, InputPrompt, lbLangNames.Items()[row]);
+        name && !name->empty())
         lbLangNames.Put(row, *name);
 }
 
@@ -120,15 +120,13 @@ void TfrmOptions::MoveLanguage(int step) {
     const auto rows = lbLangNames.SelectedRows();
     const std::size_t row = step < 0 ? rows.front() : rows.back();
     const std::size_t target = row + std::size_t(step);
-    if (target < lbLangNames.RowCount())
-        lbLangNames.Swap(row, target);
+    if (target < lbLangNames.RowCount()) lbLangNames.Swap(row, target);
 }
 
 // --- settings ---
 
 void TfrmOptions::Fill(SettingsValues values) {
-    if (values.DefaultComp.empty())
-        values.DefaultComp = "TGlotta";
+    if (values.DefaultComp.empty()) values.DefaultComp = "TGlotta";
     cbMenuItems.Set(values.MenuSection);
     hkInMenu.Set(values.ShortCut);
     cbDefTGlotta.Set(values.DefaultComp);

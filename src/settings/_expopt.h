@@ -20,16 +20,18 @@ struct TComboBox : TField<std::string> {
 
 class TfrmOptions : public TForm {
 public:
-    static constexpr std::array<std::string_view, 3> PageCaptions = {"General", "Strings in Source", "Exclude && Skip"};
-    static constexpr std::array<std::string_view, 3> ButtonCaptions = {"General", "Source Strings", "Exclude && Skip"};
+    static constexpr std::array<std::string_view, 3> PageCaptions = {"General", "Strings in Source",
+                                                                     "Exclude && Skip"};
+    static constexpr std::array<std::string_view, 3> ButtonCaptions = {"General", "Source Strings",
+                                                                       "Exclude && Skip"};
     static constexpr std::string_view SectionsCaption = "Sections";
     static constexpr std::string_view SectionsHint = "Press Ctrl+Tab to switch pages";
 
     // What the runtime library offers: names of look-up methods and classes of components.
     TfrmOptions(Ui& ui, std::vector<std::string> replaceMethods, std::vector<std::string> componentNames);
 
-    TField<int> pcOptions{0};           // the active page, from 0
-    void SwitchPage();                  // Ctrl+Tab: on to the next one
+    TField<int> pcOptions{0}; // the active page, from 0
+    void SwitchPage();        // Ctrl+Tab: on to the next one
 
     // General
     TComboBox cbMenuItems, cbDefTGlotta;

@@ -6,8 +6,7 @@ namespace glotta {
 
 void TMenuItem::Click() {
     const auto handler = OnClick;
-    if (enabled_ && handler)
-        handler();
+    if (enabled_ && handler) handler();
 }
 
 TMenuItem& TMenuItem::Add(std::string caption, std::string name, std::function<void()> onClick) {
@@ -32,30 +31,25 @@ void TMenuItem::Delete(std::size_t index) {
 
 void TMenuItem::Clear() {
     const auto gone = std::exchange(children_, {});
-    if (!gone.empty())
-        Changed();
+    if (!gone.empty()) Changed();
 }
 
 TMenuItem* TMenuItem::FindCaption(std::string_view caption) const {
     for (const auto& child : children_)
-        if (child->caption_ == caption)
-            return child.get();
+        if (child->caption_ == caption) return child.get();
     return nullptr;
 }
 
 TMenuItem* TMenuItem::FindName(std::string_view name) const {
     for (const auto& child : children_)
-        if (child->name_ == name)
-            return child.get();
+        if (child->name_ == name) return child.get();
     return nullptr;
 }
 
 TMenuItem* TMenuItem::FindDeep(std::string_view name) const {
-    if (TMenuItem* here = FindName(name))
-        return here;
+    if (TMenuItem* here = FindName(name)) return here;
     for (const auto& child : children_)
-        if (TMenuItem* below = child->FindDeep(name))
-            return below;
+        if (TMenuItem* below = child->FindDeep(name)) return below;
     return nullptr;
 }
 
@@ -67,10 +61,10 @@ void TMenuItem::ForEach(const std::function<void(TMenuItem&)>& act) const {
 }
 
 void TMenuItem::Free() {
-    if (!parent_)
-        return;
+    if (!parent_) return;
     const auto& siblings = parent_->children_;
-    const auto self = std::find_if(siblings.begin(), siblings.end(), [&](const auto& item) { return item.get() == this; });
+    const auto self =
+        std::find_if(siblings.begin(), siblings.end(), [&](const auto& item) { return item.get() == this; });
     parent_->Delete(std::size_t(self - siblings.begin()));
 }
 
@@ -78,8 +72,7 @@ void TMenuItem::Changed() {
     const TMenuItem* top = this;
     while (top->parent_)
         top = top->parent_;
-    if (top->menu_ && top->menu_->OnView)
-        top->menu_->OnView();
+    if (top->menu_ && top->menu_->OnView) top->menu_->OnView();
 }
 
 } // namespace glotta

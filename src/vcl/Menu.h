@@ -20,11 +20,11 @@ public:
     TMenuItem(const TMenuItem&) = delete;
     TMenuItem& operator=(const TMenuItem&) = delete;
 
-    const std::string& Caption() const { return caption_; } // an ampersand marks the accelerator
-    const std::string& Name() const { return name_; }       // the component name
+    const std::string& Caption() const { return caption_; }   // an ampersand marks the accelerator
+    const std::string& Name() const { return name_; }         // the component name
     const std::string& ShortCut() const { return shortCut_; } // text form, "Ctrl+L"
-    const std::string& Hint() const { return hint_; }       // "short|long"
-    const std::string& Image() const { return image_; }     // an icon's name, empty for none
+    const std::string& Hint() const { return hint_; }         // "short|long"
+    const std::string& Image() const { return image_; }       // an icon's name, empty for none
     int Tag() const { return tag_; }
     bool Enabled() const { return enabled_; }
     bool Visible() const { return visible_; }
@@ -45,8 +45,8 @@ public:
 
     // Of a submenu it runs before the children are shown.
     std::function<void()> OnClick;
-    // The person chose the item or opened the submenu. Nothing happens while it is disabled. The item may be freed
-    // by its own handler.
+    // The person chose the item or opened the submenu. Nothing happens while it is disabled. The item may be
+    // freed by its own handler.
     void Click();
 
     std::size_t Count() const { return children_.size(); }
@@ -71,8 +71,7 @@ public:
 private:
     friend class TMenu;
     template <class T> void Set(T& field, T value) {
-        if (field == value)
-            return;
+        if (field == value) return;
         field = std::move(value);
         Changed();
     }

@@ -30,7 +30,8 @@ struct Desk {
 
     Desk() { CopySample(folder, "delphi/OrderDesk"); }
     TGlottaExpert& Load() {
-        expert = ExpRegister({ide.Services(), ui, registry, helper, launcher, automation, &editor}).lock().get();
+        expert =
+            ExpRegister({ide.Services(), ui, registry, helper, launcher, automation, &editor}).lock().get();
         return *expert;
     }
     void Unload() {
@@ -54,7 +55,8 @@ struct Desk {
         for (std::size_t section = 0; section < top.Count(); ++section)
             for (std::size_t i = 0; i < top[section].Count(); ++i)
                 if (top[section][i].Caption() == "TG&lotta Expert")
-                    text += top[section].Name() + "[" + std::to_string(i) + "] " + top[section][i].ShortCut() + ";";
+                    text += top[section].Name() + "[" + std::to_string(i) + "] " +
+                            top[section][i].ShortCut() + ";";
         return text;
     }
     // Opens the file in the editor and selects the lines or the columns of one line.
@@ -98,8 +100,9 @@ TEST(Expert, ComesWithItsMenusAndLeavesNothingBehind) {
                   expert.GetPage() + "|" + std::to_string(expert.GetState()),
               "Delphi.GlottaAddInExpert|TGlotta Expert|||0");
     EXPECT_EQ(desk.Items(), "ToolsMenu[2] Ctrl+L;");
-    const std::string submenu = "Copy; TGlotta Expert; Scan selected source... (off); Mark to skip (off); -; View "
-                                "translation (off); ";
+    const std::string submenu =
+        "Copy; TGlotta Expert; Scan selected source... (off); Mark to skip (off); -; View "
+        "translation (off); ";
     EXPECT_EQ(SubMenu(window), submenu);
     expert.InstallEditorPopupMenu();
     EXPECT_EQ(SubMenu(window), submenu);
@@ -162,7 +165,8 @@ TEST(Expert, TheWindowIsOneUntilItIsClosed) {
 TEST(Expert, TellsWhatItIs) {
     Desk desk;
     desk.Load();
-    const std::string about = "TGlotta Expert (VCL Edition)\r\nMakes the forms and units of a project translatable.";
+    const std::string about =
+        "TGlotta Expert (VCL Edition)\r\nMakes the forms and units of a project translatable.";
     desk.ui.Message(about);
     desk.editor.ShowAboutBox();
     EXPECT_EQ(desk.ui.Transcript(), "Information: " + about + " -> OK\n");
@@ -202,8 +206,7 @@ TEST(Notifiers, TellOfTroubleWithTheEditorMenuAndGoOn) {
         INTAForm* GetForm(int) override { return this; }
         std::string ClassName() const override { return "TEditWindow"; }
         TPopupMenu* FindPopupMenu(std::string_view) override {
-            if (broken)
-                throw Error("window is gone");
+            if (broken) throw Error("window is gone");
             return nullptr;
         }
     } menus;
@@ -225,17 +228,21 @@ TEST(Notifiers, TheListFollowsTheDesigner) {
     TfrmGlotta& window = desk.OpenWindow();
     desk.ide.OpenFile(desk.File("Main.pas"));
     auto& form = *dynamic_cast<PlainModule&>(*desk.ide.CurrentModule()).Form();
-    const auto listed = [&](const char* name) { return desk.expert->Services().Forms().FindExact(name) != nullptr; };
+    const auto listed = [&](const char* name) {
+        return desk.expert->Services().Forms().FindExact(name) != nullptr;
+    };
     form.Designer().RenameComponent(form.Designer().Root(), "OrdersForm");
     EXPECT_TRUE(listed("OrdersForm") && !listed("MainForm"));
     // The translations of a component follow its name; identifiers of "Strings" don't.
     FormsListItem& entry = *desk.expert->Services().Forms().FindExact("OrdersForm");
     window.Translation().InsertTGlotta(entry);
     TgxCustomLang& glotta = *window.Translation().GetGlotta("OrdersForm");
-    glotta.SetStrings(stCaptions, {MakeRecord("btnNew.Caption", "New", 2), MakeRecord("btnNewer.Caption", "x", 2)});
+    glotta.SetStrings(stCaptions,
+                      {MakeRecord("btnNew.Caption", "New", 2), MakeRecord("btnNewer.Caption", "x", 2)});
     glotta.SetStrings(stStrings, {MakeRecord("btnNew.1", "y", 2)});
     form.Designer().RenameComponent(*form.Designer().Root().FindComponent("btnNew"), "btnAdd");
-    EXPECT_EQ(RecordField(glotta.Strings(stCaptions)[0], 1) + " " + RecordField(glotta.Strings(stCaptions)[1], 1) + " " +
+    EXPECT_EQ(RecordField(glotta.Strings(stCaptions)[0], 1) + " " +
+                  RecordField(glotta.Strings(stCaptions)[1], 1) + " " +
                   RecordField(glotta.Strings(stStrings)[0], 1),
               "btnAdd.Caption btnNewer.Caption btnNew.1");
     EXPECT_EQ(window.StatusBar[2](), "Forms translated: 1 of 5");
@@ -259,8 +266,8 @@ TEST(SourceCommands, MarkToSkip) {
     desk.Load();
     PlainSourceEditor& source = desk.Edit("About.pas", {27, 1}, {27, 38});
     desk.Choose(window, "Mark to skip");
-    EXPECT_NE(source.Buffer().Text().find(
-                  "begin\r\n\r\n{TGL:IGNORE ON}\r\n  lbProduct.Caption := 'Order Desk';\r\n{TGL:IGNORE OFF}\r\n\r\n"),
+    EXPECT_NE(source.Buffer().Text().find("begin\r\n\r\n{TGL:IGNORE ON}\r\n  lbProduct.Caption := 'Order "
+                                          "Desk';\r\n{TGL:IGNORE OFF}\r\n\r\n"),
               std::string::npos)
         << source.Buffer().Text();
     EXPECT_TRUE(source.Undo()); // one step
@@ -303,11 +310,13 @@ TEST(SourceCommands, ScanSelectedSource) {
     });
     desk.Choose(window, "Scan selected source...");
 
-    const std::string stranger = desk.folder.Put("Stranger.pas", "unit Stranger;\r\nconst A = 'b';\r\n").string();
+    const std::string stranger =
+        desk.folder.Put("Stranger.pas", "unit Stranger;\r\nconst A = 'b';\r\n").string();
     desk.Edit("Stranger.pas", {2, 1}, {2, 9});
     desk.ui.Message("Current project doesn't include " + stranger + " file!");
     desk.Choose(window, "Scan selected source...");
-    EXPECT_TRUE(desk.ui.Transcript().ends_with("Error: Current project doesn't include " + stranger + " file! -> OK\n"));
+    EXPECT_TRUE(desk.ui.Transcript().ends_with("Error: Current project doesn't include " + stranger +
+                                               " file! -> OK\n"));
     desk.ui.Done();
 }
 

@@ -15,18 +15,19 @@ struct Listener : IOTAIDENotifier {
         const std::string name = fileName.substr(slash + 1);
         log += std::string(code == ofnFileOpened ? "+" : code == ofnFileClosing ? "-" : "!") + name + " ";
         cancel = cancel || (code == ofnFileClosing && name == keepOpen);
-        if (then)
-            then();
+        if (then) then();
     }
 };
 
 TEST(Notifications, TellWhatThePlainIdeDoes) {
     TempFolder folder;
     for (const char* project : {"One", "Two"})
-        folder.Put(std::string(project) + ".dpr", std::string("program ") + project + ";\r\nuses\r\n  U in 'U.pas';\r\nend.\r\n");
+        folder.Put(std::string(project) + ".dpr",
+                   std::string("program ") + project + ";\r\nuses\r\n  U in 'U.pas';\r\nend.\r\n");
     folder.Put("U.pas", "unit U;\r\n");
-    const auto group = folder.Put("All.bpg", "PROJECTS = One.exe Two.exe\r\nOne.exe: One.dpr\r\n\t$(DCC)\r\nTwo.exe: "
-                                             "Two.dpr\r\n\t$(DCC)\r\n");
+    const auto group =
+        folder.Put("All.bpg", "PROJECTS = One.exe Two.exe\r\nOne.exe: One.dpr\r\n\t$(DCC)\r\nTwo.exe: "
+                              "Two.dpr\r\n\t$(DCC)\r\n");
     PlainIde ide;
     auto listener = std::make_shared<Listener>();
     ide.Services().services->AddNotifier(listener);
@@ -61,7 +62,8 @@ TEST(HostMenus, HaveTheirSectionsAndEditorWindows) {
     std::string sections;
     for (std::size_t i = 0; i < menus.MainMenu().Items.Count(); ++i)
         sections += menus.MainMenu().Items[i].Name() + " ";
-    EXPECT_EQ(sections, "FileMenu EditMenu SearchMenu ViewsMenu ProjectMenu RunMenu ComponentMenu ToolsMenu HelpMenu ");
+    EXPECT_EQ(sections,
+              "FileMenu EditMenu SearchMenu ViewsMenu ProjectMenu RunMenu ComponentMenu ToolsMenu HelpMenu ");
     HostEditWindow& window = menus.AddEditWindow();
     EXPECT_EQ(menus.GetForm(0)->ClassName(), "TEditWindow");
     EXPECT_EQ(menus.GetForm(0)->FindPopupMenu("EditorLocalMenu"), &window.EditorLocalMenu);

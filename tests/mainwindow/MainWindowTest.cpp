@@ -41,8 +41,8 @@ struct Desk {
         ide.OpenProject((folder / "OrderDesk.dpr").string());
     }
     void Create() {
-        MainWindowContext context{services,        settings, registry,   helper, results, external,
-                                  projectSettings, launcher, automation, &editor};
+        MainWindowContext context{services, settings,        registry, helper,     results,
+                                  external, projectSettings, launcher, automation, &editor};
         context.ProjectClosed = [this] { log += "closed; "; };
         context.ReinstallMenu = [this] { log += "menu " + settings.Values().MenuSection + "; "; };
         context.WindowClosed = [this] { log += "gone; "; };
@@ -57,9 +57,7 @@ struct Desk {
         return *window;
     }
     void Select(const char* form) { window->lvFormNames.SelectOnly(int(RowOf(form))); }
-    std::size_t RowOf(const char* form) {
-        return std::size_t(forms.FindExact(form) - forms.items.data());
-    }
+    std::size_t RowOf(const char* form) { return std::size_t(forms.FindExact(form) - forms.items.data()); }
     void Command(const char* id) {
         TMenuItem* item = window->MainMenu.Items.FindDeep(id);
         ASSERT_NE(item, nullptr) << id;
@@ -79,8 +77,7 @@ struct Desk {
     std::string Enabled(const TMenuItem& items) {
         std::string text;
         items.ForEach([&](TMenuItem& item) {
-            if (item.Enabled() && !item.Name().empty() && !item.IsSeparator())
-                text += item.Name() + " ";
+            if (item.Enabled() && !item.Name().empty() && !item.IsSeparator()) text += item.Name() + " ";
         });
         return text;
     }
@@ -97,7 +94,8 @@ TEST(MainWindow, OpensFilledSortedAndAtTheCurrentEditor) {
     EXPECT_EQ(desk.forms.Selected().front()->formName, "ReceiptForm");
     EXPECT_EQ(desk.ui.Transcript(), "Show TGlotta Expert (VCL Edition)\n");
     window.Open(); // again: to the front; the order turns as a click on the header turns it
-    EXPECT_EQ(desk.ui.Transcript(), "Show TGlotta Expert (VCL Edition)\nBringToFront TGlotta Expert (VCL Edition)\n");
+    EXPECT_EQ(desk.ui.Transcript(),
+              "Show TGlotta Expert (VCL Edition)\nBringToFront TGlotta Expert (VCL Edition)\n");
     EXPECT_EQ(desk.Column(FormsGrid::FormName), "ReceiptForm MainForm Data CustomerForm AboutBox");
     std::vector<std::string> names{"old"};
     window.FillProjectForms(names);
@@ -130,15 +128,18 @@ TEST(MainWindow, AColumnClickSortsAndTurns) {
 TEST(MainWindow, CommandsAreEnabledByWhatTheirTagsNeed) {
     Desk desk;
     TfrmGlotta& window = desk.Open();
-    const std::string always = "tbAddExternalFile Close1 TranslateUnit1 WithoutForm1 SelectAll1 StayonTop1 DictionaryManager1 sbOptions About1 ";
+    const std::string always = "tbAddExternalFile Close1 TranslateUnit1 WithoutForm1 SelectAll1 StayonTop1 "
+                               "DictionaryManager1 sbOptions About1 ";
     EXPECT_EQ(desk.Enabled(window.MainMenu.Items), always);
     EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "tbAddExternalFile sbOptions ");
     desk.Select("Data");
     EXPECT_EQ(desk.Enabled(window.MainMenu.Items),
-              "sbCaptions sbLanguages tbAddExternalFile Close1 Translatesource1 TranslateUnit1 Const1 WithoutForm1 ViewForm1 SelectAll1 "
+              "sbCaptions sbLanguages tbAddExternalFile Close1 Translatesource1 TranslateUnit1 Const1 "
+              "WithoutForm1 ViewForm1 SelectAll1 "
               "StayonTop1 DictionaryManager1 sbOptions About1 ");
-    EXPECT_EQ(desk.Enabled(window.PopupMenu.Items),
-              "sbCaptions sbLanguages Translatesource1 Const1 ViewForm1 SelectAll1 StayonTop1 sbOptions About1 ");
+    EXPECT_EQ(
+        desk.Enabled(window.PopupMenu.Items),
+        "sbCaptions sbLanguages Translatesource1 Const1 ViewForm1 SelectAll1 StayonTop1 sbOptions About1 ");
     EXPECT_EQ(desk.Enabled(window.ToolBar.Items),
               "sbCaptions sbLanguages tbAddExternalFile Translatesource1 Const1 ViewForm1 sbOptions ");
     window.pcForms.Enter(1); // nothing is selected in the list of that page
@@ -149,8 +150,7 @@ TEST(MainWindow, CommandsAreEnabledByWhatTheirTagsNeed) {
     for (const MainCommand& command : MainCommands()) {
         EXPECT_TRUE(ids.insert(command.id).second) << command.id;
         EXPECT_TRUE(!command.menu.empty() || !command.popup.empty()) << command.id;
-        if (!command.execute)
-            window.MainMenu.Items.FindDeep(command.id)->Click();
+        if (!command.execute) window.MainMenu.Items.FindDeep(command.id)->Click();
     }
     EXPECT_EQ(desk.log, "");
 }
@@ -167,7 +167,8 @@ TEST(MainWindow, ColumnWidthsAndPlacementAreKept) {
     window.CreateServer();
     desk.Command("Close1");
     EXPECT_EQ(desk.log, "closed; gone; ");
-    EXPECT_EQ(desk.automation.log, "class of dicmngr.TGlottaDicMngr; create dicmngr.TGlottaDicMngr; release; ");
+    EXPECT_EQ(desk.automation.log,
+              "class of dicmngr.TGlottaDicMngr; create dicmngr.TGlottaDicMngr; release; ");
     EXPECT_EQ(desk.settings.Values().ColumnWidths, "1,2,3,4,5");
     desk.Create();
     EXPECT_EQ(desk.window->Placement(), (FormPlacement{10, 20, 300, 200, false}));
@@ -177,7 +178,8 @@ TEST(MainWindow, ColumnWidthsAndPlacementAreKept) {
 TEST(MainWindow, WizardsComeFromTheRegistry) {
     Desk desk;
     const std::string key(TfrmGlotta::WizardsKey);
-    const std::string program = desk.folder.Put("wizard.exe", "").string(), gone = (desk.folder / "gone.exe").string();
+    const std::string program = desk.folder.Put("wizard.exe", "").string(),
+                      gone = (desk.folder / "gone.exe").string();
     desk.registry.WriteString(key, "WizardName1", "&Second");
     desk.Create();
     EXPECT_FALSE(desk.window->MainMenu.Items.FindName("Wizards1")->Enabled()); // the first one is missing
@@ -192,7 +194,8 @@ TEST(MainWindow, WizardsComeFromTheRegistry) {
     desk.Select("Data");
     wizards[0].Click();
     const std::string project = program + " -p \"" + (desk.folder / "OrderDesk.dpr").string() + "\" -s \"";
-    EXPECT_EQ(desk.launcher.log, project + "\"\n" + project + (desk.folder / "DataMod.pas").string() + "\"\n");
+    EXPECT_EQ(desk.launcher.log,
+              project + "\"\n" + project + (desk.folder / "DataMod.pas").string() + "\"\n");
     desk.ui.Message("Could not find " + gone);
     EXPECT_TRUE(wizards[1].Enabled() && wizards[1].Tag() == -1);
     wizards[1].Click();
@@ -259,14 +262,16 @@ TEST(MainWindow, ASourceScanIsReviewedAndWritten) {
         .Message("Source file translated. All string constants added to \"Strings\" property.");
     desk.Command("Translatesource1");
     const std::string source = desk.services.GetUnitSource((desk.folder / "About.pas").string());
-    EXPECT_NE(source.find("lbProduct.Caption := Glotta1.GetTextOrDefault('IDS_0');"), std::string::npos) << source;
+    EXPECT_NE(source.find("lbProduct.Caption := Glotta1.GetTextOrDefault('IDS_0');"), std::string::npos)
+        << source;
     EXPECT_EQ(desk.Column(FormsGrid::Languages), "2 0 0 0 0");
 
     // What was skipped can be looked at; a unit whose review is left alone stays as it is.
     desk.settings.SetSkipWords(TStringList(std::vector<std::string>{"nothing to pay"}));
     desk.projectSettings = std::make_unique<TGlottaProjectSettings>();
     desk.ui.Modal<TfrmTranslUnits>([](TfrmTranslUnits& units) {
-        EXPECT_EQ(JoinLines(units.lbUnits.Items(), " ") + ": " + units.cbFormNames(), "Totals Trace: AboutBox");
+        EXPECT_EQ(JoinLines(units.lbUnits.Items(), " ") + ": " + units.cbFormNames(),
+                  "Totals Trace: AboutBox");
         units.lbUnits.SelectOnly(0);
         units.btOK.Execute();
         return ModalResult::Cancel;
@@ -275,7 +280,8 @@ TEST(MainWindow, ASourceScanIsReviewedAndWritten) {
         .Message("This will close the Found Strings form! Continue?", ModalResult::Yes);
     desk.Command("TranslateUnit1");
     desk.ui.Window<TfrmSkippedStrings>([](TfrmSkippedStrings& skipped) {
-        EXPECT_EQ(skipped.StatusText() + " " + skipped.lbStrings.CellText(1, 0), "Strings Skipped: 2 nothing to pay");
+        EXPECT_EQ(skipped.StatusText() + " " + skipped.lbStrings.CellText(1, 0),
+                  "Strings Skipped: 2 nothing to pay");
     });
     desk.Command("ViewSkipped1");
     desk.ui.Done();
@@ -290,12 +296,14 @@ TEST(MainWindow, AConstantScanWiresTheForm) {
         return ModalResult::Cancel;
     });
     desk.ui.Message("This will apply changes and modify source code. Continue?", ModalResult::Yes)
-        .Message("Source file translated. All string constants added to \"Strings\" property.\r\nYou need to change CONST to "
+        .Message("Source file translated. All string constants added to \"Strings\" property.\r\nYou need to "
+                 "change CONST to "
                  "VAR declaration or turn ON \"Assignable typed constants\" compiler option!");
     desk.Command("Const1");
     const std::string source = desk.services.GetUnitSource((desk.folder / "Main.pas").string());
-    EXPECT_NE(source.find("procedure TMainForm.FormCreate(Sender: TObject);\r\nbegin\r\n  UpdateStrings;\r\n"),
-              std::string::npos)
+    EXPECT_NE(
+        source.find("procedure TMainForm.FormCreate(Sender: TObject);\r\nbegin\r\n  UpdateStrings;\r\n"),
+        std::string::npos)
         << source;
     desk.Select("AboutBox");
     desk.ui.Message("There are no strings in CONST section of \"About\" unit!");
@@ -306,10 +314,12 @@ TEST(MainWindow, AConstantScanWiresTheForm) {
 TEST(MainWindow, ExternalFilesHaveTheirOwnPage) {
     Desk desk;
     TfrmGlotta& window = desk.Open();
-    const std::string unit = desk.folder.Put("other/Ext.pas", "unit Ext;\r\n\r\ninterface\r\n\r\nuses\r\n  Forms;\r\n\r\n"
-                                                              "type\r\n  TExtForm = class(TForm)\r\n  end;\r\n\r\n"
-                                                              "implementation\r\n\r\n{$R *.dfm}\r\n\r\nend.\r\n")
-                                 .string();
+    const std::string unit =
+        desk.folder
+            .Put("other/Ext.pas", "unit Ext;\r\n\r\ninterface\r\n\r\nuses\r\n  Forms;\r\n\r\n"
+                                  "type\r\n  TExtForm = class(TForm)\r\n  end;\r\n\r\n"
+                                  "implementation\r\n\r\n{$R *.dfm}\r\n\r\nend.\r\n")
+            .string();
     desk.folder.Put("other/Ext.dfm", "object ExtForm: TExtForm\r\nend\r\n");
     const std::string bare = desk.folder.Put("other/Bare.pas", "unit Bare;\r\nend.\r\n").string();
     desk.ui.File("", {});

@@ -13,8 +13,9 @@ namespace {
 
 TEST(Launch, AProgramGetsItsParametersAsOneLineSplitsThem) {
     TempFolder folder;
-    const auto script = folder.Put("my wizard.sh", "#!/bin/sh\nfor p in \"$@\"; do echo \"[$p]\"; done > \"$0.tmp\"\n"
-                                                   "mv \"$0.tmp\" \"$0.out\"\n");
+    const auto script =
+        folder.Put("my wizard.sh", "#!/bin/sh\nfor p in \"$@\"; do echo \"[$p]\"; done > \"$0.tmp\"\n"
+                                   "mv \"$0.tmp\" \"$0.out\"\n");
     std::filesystem::permissions(script, std::filesystem::perms::owner_all);
     SystemLauncher()->Open(script.string(), "-p \"a b.dpr\" -s \"\" x\"y z\"");
     const auto out = folder / "my wizard.sh.out";

@@ -46,38 +46,42 @@ TEST(Options, WhatIsShownAndNotChangedStays) {
     values.ReplaceMethod = "Translate(";
     values.CnstPermanent = 7;
     desk.form.Fill(values);
-    EXPECT_EQ(desk.form.cbDefTGlotta() + " " + desk.form.cbReplaceMethod() + " " + std::to_string(desk.form.rgCnstPfx()),
+    EXPECT_EQ(desk.form.cbDefTGlotta() + " " + desk.form.cbReplaceMethod() + " " +
+                  std::to_string(desk.form.rgCnstPfx()),
               "TGlotta GetText( 1");
 }
 
 TEST(Options, EveryControlSetsItsSetting) {
     Desk desk;
-    EXPECT_EQ(desk.Applied([&form = desk.form] {
-        form.cbMenuItems.Enter("HelpMenu");
-        form.hkInMenu.Enter(TextToShortCut("Shift+Ctrl+G"));
-        form.cbDefTGlotta.Enter("TGlottaRT");
-        form.cbOpenAll.Enter(true);
-        form.lbLangNames.SetItems({"English", "German"});
-        form.edNLang.Enter("3");
-        form.edIgnorableLength.Enter("4");
-        form.edCommentsLength.Enter("20");
-        form.edPreviewLines.Enter("3"); // only the buttons keep the minimum
-        form.edHCPfx.Enter("HC_");
-        form.edConstPfx.Enter("cst");
-        form.cbReplaceMethod.Enter("GetTextC(");
-        form.ckbAddFormName.Enter(true);
-        form.ckbNoCommentsAtAll.Enter(true);
-        form.ckbEmptyConsts.Enter(false);
-        form.rgCnstPfx.Enter(1);
-        form.edExcludeChars.Enter("abc");
-        form.memSkipLines.Enter("ShowMessage\r\nLog");
-        form.memSkipWords.Enter("^x$");
-        form.ckbUseREtoSkip.Enter(true);
-    }),
-              "MenuSection=HelpMenu\nShortCut=Shift+Ctrl+G\nNumLang=3\nOpenAllForms=1\nDefaultComp=TGlottaRT\n"
-              "CnstPermanent=1\nCnstPrefix=cst\nHCPrefix=HC_\nAddFormName=1\nReplaceMethod=GetTextC(\nIgnorableLength=4\n"
-              "DefaultLangNames=English|German|\nCommentsLength=20\nEmptyConstsValues=0\nExcludeChars=abc\n"
-              "SkipLines=ShowMessage\nLog\nSkipWords=^x$\nUseRegExpForSkip=1\nPreviewLines=3\nNoCommentsInSources=1\n");
+    EXPECT_EQ(
+        desk.Applied([&form = desk.form] {
+            form.cbMenuItems.Enter("HelpMenu");
+            form.hkInMenu.Enter(TextToShortCut("Shift+Ctrl+G"));
+            form.cbDefTGlotta.Enter("TGlottaRT");
+            form.cbOpenAll.Enter(true);
+            form.lbLangNames.SetItems({"English", "German"});
+            form.edNLang.Enter("3");
+            form.edIgnorableLength.Enter("4");
+            form.edCommentsLength.Enter("20");
+            form.edPreviewLines.Enter("3"); // only the buttons keep the minimum
+            form.edHCPfx.Enter("HC_");
+            form.edConstPfx.Enter("cst");
+            form.cbReplaceMethod.Enter("GetTextC(");
+            form.ckbAddFormName.Enter(true);
+            form.ckbNoCommentsAtAll.Enter(true);
+            form.ckbEmptyConsts.Enter(false);
+            form.rgCnstPfx.Enter(1);
+            form.edExcludeChars.Enter("abc");
+            form.memSkipLines.Enter("ShowMessage\r\nLog");
+            form.memSkipWords.Enter("^x$");
+            form.ckbUseREtoSkip.Enter(true);
+        }),
+        "MenuSection=HelpMenu\nShortCut=Shift+Ctrl+G\nNumLang=3\nOpenAllForms=1\nDefaultComp=TGlottaRT\n"
+        "CnstPermanent=1\nCnstPrefix=cst\nHCPrefix=HC_\nAddFormName=1\nReplaceMethod=GetTextC("
+        "\nIgnorableLength=4\n"
+        "DefaultLangNames=English|German|\nCommentsLength=20\nEmptyConstsValues=0\nExcludeChars=abc\n"
+        "SkipLines=ShowMessage\nLog\nSkipWords=^x$\nUseRegExpForSkip=1\nPreviewLines=3\nNoCommentsInSources="
+        "1\n");
 }
 
 TEST(Options, ANumberThatIsNoneEndsTheApplying) {
@@ -96,7 +100,8 @@ TEST(Options, ANumberThatIsNoneEndsTheApplying) {
         form.ckbAddFormName.Enter(true);
     }),
               "'' is not a valid integer value\nHCPrefix=HC\nAddFormName=1\n");
-    EXPECT_EQ(desk.Applied([&form = desk.form] { form.edCommentsLength.Enter("0"); }), ""); // "many" counts as 5
+    EXPECT_EQ(desk.Applied([&form = desk.form] { form.edCommentsLength.Enter("0"); }),
+              ""); // "many" counts as 5
 }
 
 TEST(Options, StepButtonsStopAtTheirBounds) {
@@ -116,13 +121,13 @@ TEST(Options, StepButtonsStopAtTheirBounds) {
     const std::string from0 = "1/0 2/0 6/4 255/253 255/254 255/255 1/0 ";
     EXPECT_EQ(all(form.edIgnorableLength, form.sbIgnorableUp, form.sbIgnorableDown), from0);
     EXPECT_EQ(all(form.edCommentsLength, form.sbCommentsUp, form.sbCommentsDown), from0);
-    EXPECT_EQ(all(form.edNLang, form.sbNLangUp, form.sbNLangDown), "1/1 2/1 6/4 255/253 255/254 255/255 1/1 ");
+    EXPECT_EQ(all(form.edNLang, form.sbNLangUp, form.sbNLangDown),
+              "1/1 2/1 6/4 255/253 255/254 255/255 1/1 ");
     EXPECT_EQ(all(form.edPreviewLines, form.sbPreviewUp, form.sbPreviewDown),
               "5/5 5/5 6/5 255/253 256/254 701/699 5/5 ");
     std::string passed;
     for (char32_t key = 1; key < 127; ++key)
-        if (TfrmOptions::AcceptsKey(key) && key >= 32)
-            passed += char(key);
+        if (TfrmOptions::AcceptsKey(key) && key >= 32) passed += char(key);
     EXPECT_EQ(passed, "0123456789");
     EXPECT_TRUE(TfrmOptions::AcceptsKey(8));
 }
@@ -130,7 +135,9 @@ TEST(Options, StepButtonsStopAtTheirBounds) {
 TEST(Options, RegularExpressionsNeedPhrases) {
     Desk desk;
     TfrmOptions& form = desk.form;
-    const auto state = [&] { return std::to_string(form.ckbUseREtoSkip.Enabled()) + std::to_string(form.ckbUseREtoSkip()); };
+    const auto state = [&] {
+        return std::to_string(form.ckbUseREtoSkip.Enabled()) + std::to_string(form.ckbUseREtoSkip());
+    };
     EXPECT_EQ(state(), "00");
     form.memSkipWords.Enter("x");
     form.ckbUseREtoSkip.Enter(true);
@@ -166,8 +173,9 @@ TEST(Options, LanguagesAreNamedOrderedAndDeleted) {
     form.btnDelete.Execute();
     EXPECT_EQ(JoinLines(form.lbLangNames.Items(), ","), "English");
     const std::string title = "Input TGlotta Expert default languages|Enter new language name:|";
-    EXPECT_EQ(desk.ui.Transcript(), title + " -> English\n" + title + " -> Dutch\n" + title + " -> Cancel\n" + title +
-                                        "Dutch -> German\n" + "Confirmation: Delete selected language name(s)? -> No\n" +
+    EXPECT_EQ(desk.ui.Transcript(), title + " -> English\n" + title + " -> Dutch\n" + title + " -> Cancel\n" +
+                                        title + "Dutch -> German\n" +
+                                        "Confirmation: Delete selected language name(s)? -> No\n" +
                                         "Confirmation: Delete selected language name(s)? -> Yes\n");
 }
 

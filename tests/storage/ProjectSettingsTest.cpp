@@ -23,8 +23,9 @@ TEST(ProjectSettings, OptionsAreReadAndWrittenByName) {
     settings.SetOptionValue("DictionaryForceEmpties", "0");
     settings.SaveFile();
     EXPECT_FALSE(settings.GetIsChanged());
-    EXPECT_EQ(folder.Shown(), "App.gxproj=; mine\r\n[Settings]\r\nDispatcherForm=Main\r\nDictionaryForceEmpties=0\r\n"
-                              "DontAskForDictionary=1\r\n;");
+    EXPECT_EQ(folder.Shown(),
+              "App.gxproj=; mine\r\n[Settings]\r\nDispatcherForm=Main\r\nDictionaryForceEmpties=0\r\n"
+              "DontAskForDictionary=1\r\n;");
     EXPECT_TRUE(settings.GetOptionFlag("DontAskForDictionary"));
 }
 

@@ -14,7 +14,9 @@ namespace glotta {
 
 struct FakeLauncher : Launcher {
     std::string log;
-    void Open(const std::string& file, const std::string& parameters) override { log += file + " " + parameters + "\n"; }
+    void Open(const std::string& file, const std::string& parameters) override {
+        log += file + " " + parameters + "\n";
+    }
 };
 
 struct FakeAutomation : Automation {
@@ -23,13 +25,11 @@ struct FakeAutomation : Automation {
 
     std::string ClassIdOf(const std::string& progId) override {
         log += "class of " + progId + "; ";
-        if (!registered)
-            throw Error("class registry");
+        if (!registered) throw Error("class registry");
         return "{id}";
     }
     std::unique_ptr<AutomationObject> CreateObject(const std::string& progId) override {
-        if (!registered)
-            throw Error(progId + " is not registered");
+        if (!registered) throw Error(progId + " is not registered");
         log += "create " + progId + "; ";
         return std::make_unique<Object>(log);
     }

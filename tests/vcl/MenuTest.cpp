@@ -8,8 +8,7 @@ std::string Shown(const TMenuItem& item) {
     std::string text;
     for (std::size_t i = 0; i < item.Count(); ++i) {
         text += (i ? " " : "") + item[i].Caption();
-        if (item[i].Count() > 0)
-            text += "(" + Shown(item[i]) + ")";
+        if (item[i].Count() > 0) text += "(" + Shown(item[i]) + ")";
     }
     return text;
 }
