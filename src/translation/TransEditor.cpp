@@ -11,7 +11,7 @@ const std::string InputCaption = "Translation Editor";
 } // namespace
 
 TfrmTransEditor::TfrmTransEditor(Ui& ui, TgxCustomLang& component, const TransEditor& hooks)
-    : texts_(component), ui_(ui), component_(component), hooks_(hooks) {
+    : before_(Collect(component)), texts_(component), ui_(ui), component_(component), hooks_(hooks) {
     caption = "Translation Editor - " + component.Name();
     Column.Set(std::min(2, texts_.Languages()));
     DeclareActions();
@@ -289,33 +289,42 @@ void TfrmTransEditor::Navigate() {
 
 // --- closing ---
 
+TfrmTransEditor::Lists TfrmTransEditor::Collect(TgxCustomLang& component) {
+    Lists lists;
+    for (int kind = 0; kind < StringsTypeCount; ++kind)
+        lists[std::size_t(kind)] = component.Strings(TStringsType(kind)).Items();
+    component.UpdateTranslations();
+    return lists;
+}
+
+void TfrmTransEditor::TakeBack() {
+    for (int kind = 0; kind < StringsTypeCount; ++kind)
+        if (component_.Strings(TStringsType(kind)).Items() != before_[std::size_t(kind)])
+            component_.SetStrings(TStringsType(kind), before_[std::size_t(kind)]);
+}
+
 void TfrmTransEditor::Write() {
-    if (!texts_.IsChanged())
-        return;
     if (hooks_.OnChangeStrID)
         for (const auto& [before, id] : renamed_)
             hooks_.OnChangeStrID(before, id);
     texts_.WriteTo(component_);
-    changed_ = true;
+    for (int kind = 0; kind < StringsTypeCount; ++kind)
+        changed_ = changed_ || component_.Strings(TStringsType(kind)).Items() != before_[std::size_t(kind)];
 }
 
 bool TfrmTransEditor::CloseQuery(Ui& ui, ModalResult result) {
-    if (result == ModalResult::OK) {
-        Write();
-        return true;
-    }
-    if (!texts_.IsChanged())
-        return true;
-    switch (ui.MessageDlg("The translations were changed. Keep the changes?", MsgType::Confirmation,
-                          {ModalResult::Yes, ModalResult::No, ModalResult::Cancel})) {
-    case ModalResult::Yes:
-        Write();
-        return true;
-    case ModalResult::No:
-        return true;
-    default:
+    if (result != ModalResult::OK && texts_.IsChanged())
+        result = ui.MessageDlg("The translations were changed. Keep the changes?", MsgType::Confirmation,
+                               {ModalResult::Yes, ModalResult::No, ModalResult::Cancel});
+    else if (result != ModalResult::OK)
+        result = ModalResult::No;
+    if (result == ModalResult::Cancel)
         return false;
-    }
+    if (result == ModalResult::No)
+        TakeBack();
+    else
+        Write();
+    return true;
 }
 
 bool TransEditorDialog::TransEditorDlg(TgxCustomLang& component, const std::optional<TransEditorPlace>& place) {

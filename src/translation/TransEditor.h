@@ -13,12 +13,15 @@ namespace glotta {
 
 class TfrmTransEditor : public TForm {
 public:
-    // Both outlive the dialog. The component changes when the dialog is left with OK.
+    // Both outlive the dialog. The form's texts are collected; unless the dialog is left with OK the component is
+    // afterwards as it was before.
     TfrmTransEditor(Ui& ui, TgxCustomLang& component, const TransEditor& hooks);
     TfrmTransEditor(const TfrmTransEditor&) = delete;
     TfrmTransEditor& operator=(const TfrmTransEditor&) = delete;
 
 private:
+    using Lists = std::array<std::vector<std::string>, StringsTypeCount>;
+    Lists before_; // the component's records
     TransTexts texts_;
 
 public:
@@ -60,7 +63,9 @@ private:
     void CopyFirst();
     void RenameID();
     void Navigate();
+    static Lists Collect(TgxCustomLang& component); // gives the lists as they were
     void Write();
+    void TakeBack();
 
     Ui& ui_;
     TgxCustomLang& component_;

@@ -215,7 +215,13 @@ void Bindings::Release() {
     Forget();
 }
 
+void Bindings::AtEnd(std::function<void()> act) {
+    atEnd_.push_back(std::move(act));
+}
+
 void Bindings::Forget() {
+    for (const auto& act : std::exchange(atEnd_, {}))
+        act();
     release_.clear();
     always_.clear();
     context_.reset();

@@ -54,6 +54,7 @@ public:
     template <class T> void Follow(TField<T>& field, std::function<void()> show);
     // `show` runs now and after each change of anything bound.
     void Always(std::function<void()> show);
+    void AtEnd(std::function<void()> act); // when the view is released
     // Something that the person did: runs it to its end or its message, and shows what changed.
     void Act(const std::function<void()>& act);
     QObject* Context() const { return context_.get(); } // for further connections of the view
@@ -68,6 +69,7 @@ private:
     std::unique_ptr<QObject> context_ = std::make_unique<QObject>();
     std::vector<std::function<void()>> always_;
     std::vector<std::function<void()>> release_; // touch the form
+    std::vector<std::function<void()>> atEnd_;
     std::vector<GridView*> grids_;
     bool pending_ = false;
 };

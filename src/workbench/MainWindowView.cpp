@@ -38,6 +38,10 @@ public:
         }
         if (form.Placement())
             Place(*this, *form.Placement());
+        bind.AtEnd([this] {
+            menu_.reset();
+            buttons_.reset();
+        });
         bind.Follow(form.StayOnTop, [this] { StayOnTop(); });
         c.lvFormNames->setFocus();
     }
