@@ -7,6 +7,7 @@
 #include "host/OpenFiles.h"
 #include "host/ProjectModule.h"
 #include "ide/ToolsApi.h"
+#include "platform/Text.h"
 
 #include <filesystem>
 #include <functional>
@@ -62,6 +63,8 @@ public:
 
     // What to do with a modified module that is to be closed; unset, it stays open.
     std::function<CloseAnswer(IOTAModule&)> askClose;
+    // The person looks at the module.
+    void BringToFront(IOTAModule& module) { ShowModule(module); }
     // A module was brought to front; something was passed over. Both are a window's.
     std::function<void(IOTAModule&)> onShow;
     std::function<void(const std::string& problem)> onProblem;
@@ -108,6 +111,7 @@ private:
     std::optional<Encoding> told_;
     std::vector<Entry> modules_;
     std::unordered_map<std::string, IOTAModule*> byFile_; // every file of every open module, by FileKey
+    std::unordered_map<std::string, PlainModule*, TextHash, TextEqual> byForm_; // by the name at the last look-up
     std::vector<IOTAModule*> shown_;                      // the one in front last
     std::vector<std::string> problems_;
     HostMenus menus_;

@@ -61,6 +61,10 @@ public:
     bool Save(bool changeName, bool forceSave) override;
     bool Close() override { return host_.CloseModule(*this); }
     int ProjectCount() const override { return static_cast<int>(description_.projects.size()); }
+    // What the group says of a project, without reading it.
+    const ProjectGroupEntry& ProjectEntryOf(int index) const {
+        return description_.projects[static_cast<std::size_t>(index)];
+    }
     // Projects are read when they are asked for; one that cannot be read is nil, and a problem of the host.
     PlainProject* GetProject(int index) override;
     PlainProject* ActiveProject() override { return GetProject(description_.activeIndex); }

@@ -59,7 +59,10 @@ public:
 
     std::string FileName() const override { return fileName_; }
     bool Modified() const override { return buffer_.Modified(); }
-    void Show() override { onShow_(); }
+    void Show() override {
+        onShow_();
+        if (OnShow) OnShow();
+    }
     IOTAModule& Module() override { return module_; }
 
     std::unique_ptr<IOTAEditReader> CreateReader() override;
@@ -86,6 +89,7 @@ public:
     void MarkUnsaved() { buffer_.MarkUnsaved(); }
 
     std::function<void()> OnView; // the window's: the text changed, by Buffer().LastStep()
+    std::function<void()> OnShow; // the window's: this editor of the module is wanted
 
 private:
     friend class PlainEditWriter;
