@@ -44,6 +44,8 @@ template <class Module> Module& PlainIde::Adopt(std::unique_ptr<Module> module) 
     Module& result = *module;
     for (const fs::path& path : result.Paths())
         byFile_.emplace(FileKey(path), &result);
+    if constexpr (std::is_same_v<Module, PlainModule>)
+        if (result.Form()) byForm_.emplace(result.Name(), &result);
     modules_.push_back({std::move(module), &result});
     return result;
 }
@@ -134,9 +136,15 @@ IOTAModule* PlainIde::FindModule(const std::string& fileName) {
 }
 
 IOTAModule* PlainIde::FindFormModule(const std::string& formName) {
+    if (const auto found = byForm_.find(formName);
+        found != byForm_.end() && SameText(found->second->Name(), formName))
+        return found->second;
+    // A form that was renamed since it was opened, or none.
     for (const Entry& entry : modules_) {
         auto* module = dynamic_cast<PlainModule*>(entry.module.get());
-        if (module && module->Form() && SameText(module->Name(), formName)) return module;
+        if (!module || !module->Form() || !SameText(module->Name(), formName)) continue;
+        byForm_.insert_or_assign(formName, module);
+        return module;
     }
     return nullptr;
 }
@@ -245,6 +253,7 @@ void PlainIde::Forget(IOTAModule& module) {
     if (auto* unit = dynamic_cast<PlainModule*>(&module)) unit->TellDestroyed();
     std::erase(shown_, &module);
     std::erase_if(byFile_, [&](const auto& item) { return item.second == &module; });
+    std::erase_if(byForm_, [&](const auto& item) { return item.second == &module; });
     std::erase_if(modules_, [&](const Entry& entry) { return entry.module.get() == &module; });
 }
 

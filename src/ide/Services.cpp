@@ -21,14 +21,6 @@ template <class Matches> IOTAModule* FindOpenModule(IOTAModuleServices& modules,
     return nullptr;
 }
 
-// A file of exactly this name before one that differs in letter case.
-IOTAModule* FindOpenFile(IOTAModuleServices& modules, const std::string& fileName) {
-    IOTAModule* exact = FindOpenModule(modules, [&](IOTAModule& m) { return m.FileName() == fileName; });
-    return exact
-               ? exact
-               : FindOpenModule(modules, [&](IOTAModule& m) { return SameFileName(m.FileName(), fileName); });
-}
-
 std::string ReadWhole(IOTASourceEditor& editor) {
     const auto reader = editor.CreateReader();
     std::string text;
@@ -70,7 +62,7 @@ IOTAProject& IdeServices::RequireActiveProject() {
 
 IOTAModule* IdeServices::GetModuleFromFileName(const std::string& fileName) {
     RequireActiveProject();
-    return FindOpenFile(ide_.modules, fileName);
+    return ide_.modules.FindModule(fileName);
 }
 
 IOTASourceEditor* IdeServices::GetSourceEditorFromFileName(const std::string& fileName) {
@@ -142,7 +134,7 @@ bool IdeServices::TestForCorrectForm(const std::string& formName) {
 }
 
 bool IdeServices::IsFileOpen(const std::string& fileName) {
-    return FindOpenFile(ide_.modules, fileName);
+    return ide_.modules.FindModule(fileName);
 }
 
 bool IdeServices::OpenFile(const std::string& fileName, bool show) {

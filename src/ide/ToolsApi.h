@@ -178,6 +178,7 @@ public:
     virtual int ModuleCount() const = 0;
     virtual IOTAModule* GetModule(int index) = 0; // open modules in order of opening
     virtual IOTAModule* CurrentModule() = 0;
+    // The open module of a file, by the platform's comparison of file names; one of exactly that name before others.
     virtual IOTAModule* FindModule(const std::string& fileName) = 0;
     virtual IOTAModule* FindFormModule(const std::string& formName) = 0;
 };

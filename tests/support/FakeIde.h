@@ -1,5 +1,6 @@
 // An IDE in memory: modules as a test lists them, and a log of what was asked of it.
 #pragma once
+#include "platform/Files.h"
 #include "ide/Services.h"
 #include "platform/Text.h"
 #include "support/ScriptedUi.h"
@@ -188,7 +189,8 @@ public:
     IOTAModule* GetModule(int index) override { return open[static_cast<std::size_t>(index)]; }
     IOTAModule* CurrentModule() override { return current; }
     IOTAModule* FindModule(const std::string& fileName) override {
-        return Find([&](IOTAModule& m) { return m.FileName() == fileName; });
+        IOTAModule* exact = Find([&](IOTAModule& m) { return m.FileName() == fileName; });
+        return exact ? exact : Find([&](IOTAModule& m) { return SameFileName(m.FileName(), fileName); });
     }
     IOTAModule* FindFormModule(const std::string& formName) override {
         return Find([&](IOTAModule& m) { return m.Name() == formName; });
