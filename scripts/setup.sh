@@ -24,12 +24,12 @@ install_missing() {
     DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build PRESET TARGET...: configures once, builds the targets (all without any) and shows output only when it fails.
+# build PRESET TARGET...: configures (again when a target is missing, as when its library came only now), builds the targets (all without any) and shows output only when it fails.
 build() {
     local preset=$1
     shift
     local dir=$root/build/$preset
-    if [ ! -f "$dir/build.ninja" ]; then
+    if [ ! -f "$dir/build.ninja" ] || { [ $# -gt 0 ] && ! ninja -C "$dir" -t query "$@" >/dev/null 2>&1; }; then
         say "Configuring $preset"
         (cd "$root" && cmake --preset "$preset") >"$root/build-$preset.log" 2>&1 ||
             { cat "$root/build-$preset.log" >&2; return 1; }
