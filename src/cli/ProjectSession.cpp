@@ -18,8 +18,10 @@ ProjectSession::ProjectSession(Session& session, const std::string& project)
 
 IOTAProject& ProjectSession::Project() {
     IOTAProject* project = services_.GetActiveProject();
-    if (!project)
+    if (!project) {
+        PrintProblems();
         throw Error("the project group has no project that can be opened");
+    }
     return *project;
 }
 

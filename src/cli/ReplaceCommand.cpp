@@ -34,6 +34,10 @@ public:
           commands_{translation_, scan_, project_.Services()} {}
 
     int Run() {
+        if (!options_.stringsForm.empty())
+            stringsForm_ = FindForm("--strings-form", options_.stringsForm).formName;
+        else
+            stringsForm_ = project_.ProjectOption("DefaultFormForUnits");
         for (const Target& target : Targets())
             Localize(target);
         project_.PrintProblems();
@@ -73,13 +77,18 @@ private:
         return targets;
     }
 
-    Target FormTarget(const std::string& name) {
+    const FormsListItem& FindForm(const std::string& option, const std::string& name) {
         const FormsListItem* item = project_.Forms().FindExact(name);
         if (!item)
             item = project_.Forms().FindText(name);
         if (!item)
-            throw Error("--form " + name + ": the project has no such form");
-        return {item->formName, item->unitName, item->fileName, true};
+            throw Error(option + " " + name + ": the project has no such form");
+        return *item;
+    }
+
+    Target FormTarget(const std::string& name) {
+        const FormsListItem& item = FindForm("--form", name);
+        return {item.formName, item.unitName, item.fileName, true};
     }
 
     Target UnitTarget(const std::string& name) {
@@ -108,7 +117,7 @@ private:
             if (options_.constMode)
                 LocalizeConstants(target);
             else if (target.form.empty())
-                commands_.TranslateUnit1Click(target.file, StringsForm());
+                commands_.TranslateUnit1Click(target.file, stringsForm_);
             else
                 commands_.Translatesource1Click(*project_.Forms().FindExact(target.form));
             Report(target);
@@ -129,16 +138,9 @@ private:
         if (!scan_.FindsConstants(target.form.empty() ? target.file : target.form))
             return;
         if (target.form.empty())
-            commands_.WithoutForm1Click(target.file, StringsForm());
+            commands_.WithoutForm1Click(target.file, stringsForm_);
         else
             commands_.Const1Click(*project_.Forms().FindExact(target.form));
-    }
-
-    std::string StringsForm() {
-        if (stringsForm_.empty())
-            stringsForm_ = options_.stringsForm.empty() ? project_.ProjectOption("DefaultFormForUnits")
-                                                        : options_.stringsForm;
-        return stringsForm_;
     }
 
     void Report(const Target& target) {

@@ -144,6 +144,18 @@ void AddUnits(ProjectDescription& project, PathResolver& paths, ProjectListing l
     entries.Supplement(folder, listing.units);
 }
 
+// The options file that a group names is often left out of version control; the project's source says as much.
+void FindSourceBeside(ProjectGroupEntry& entry, PathResolver& paths) {
+    const std::string extension = LowerExtension(PathText(entry.file));
+    if (extension != ".dproj" && extension != ".bdsproj") return;
+    for (const char* source : {".dpr", ".dpk"})
+        if (const auto file = Beside(paths, entry.file, source)) {
+            entry.file = *file;
+            entry.missing = false;
+            return;
+        }
+}
+
 } // namespace
 
 bool IsProjectGroupFile(const fs::path& file) {
@@ -195,6 +207,7 @@ ProjectGroupDescription ReadProjectGroup(const fs::path& file) {
     for (const GroupListing::Project& project : listing.projects) {
         ProjectGroupEntry entry{project.path, {}, false};
         entry.file = ResolveOrNative(paths, group.file.parent_path(), project.path, entry.missing);
+        if (entry.missing) FindSourceBeside(entry, paths);
         const auto [known, isNew] = byFile.try_emplace(PathText(entry.file), group.projects.size());
         const bool named =
             SameFileName(project.name, listing.active) || SameFileName(project.path, listing.active);

@@ -1,6 +1,8 @@
 #include "scanner/CallPlaces.h"
 
 #include "scanner/CallPlacesWalk.h"
+#include "scanner/PCharArguments.h"
+#include "scanner/TextMacro.h"
 
 namespace glotta {
 
@@ -34,6 +36,7 @@ std::string_view Phrase(Reason reason) {
         "in a range",
         "single character, may be a Char",
         "label of a case statement",
+        "argument that is a pointer",
         "at file or class scope",
         "default argument",
         "static initialiser",
@@ -61,11 +64,15 @@ struct CallPlaces::Impl {
         if (next == walked.places.begin() || (next - 1)->end <= byte) return nullptr;
         return &*(next - 1);
     }
+    // The literal at the byte or the next one behind it.
+    const Place* FirstLiteral(std::size_t byte) const {
+        return &*std::find_if(walked.places.begin(), walked.places.end(),
+                              [byte](const Place& place) { return place.literal && place.end > byte; });
+    }
     bool Covers(std::string_view expression, const Token& token) const {
         const std::string_view word = expression.substr(token.begin, token.end - token.begin);
         if (token.kind == TokenKind::Symbol) return word == "+" || (isCpp && (word == "(" || word == ")"));
-        return isCpp && token.kind == TokenKind::Identifier &&
-               (word == "_T" || word == "TEXT" || word == "_TEXT" || word == "__T" || word == "__TEXT");
+        return isCpp && token.kind == TokenKind::Identifier && IsTextMacro(word);
     }
     Reason WhyNot(std::size_t begin, std::size_t end) const;
 };
@@ -77,6 +84,7 @@ Reason CallPlaces::Impl::WhyNot(std::size_t begin, std::size_t end) const {
     const std::string_view expression = text.substr(begin, end - begin);
     Reason reason = Reason::None;
     const Place* last = nullptr;
+    bool joined = false;
     std::size_t covered = 0;
     for (const Token& token : Tokenize(expression, isCpp, KeepComments::Yes)) {
         covered = token.end;
@@ -89,11 +97,12 @@ Reason CallPlaces::Impl::WhyNot(std::size_t begin, std::size_t end) const {
             place->end != begin + token.end)
             return Reason::CutsToken;
         if (reason == Reason::None) reason = place->reason;
-        if (!last && place->joinedBefore && reason == Reason::None) reason = Reason::Adjacent;
+        joined |= !last && place->joinedBefore;
         last = place;
     }
     if (!last || covered != expression.size()) return Reason::CutsToken;
-    return reason == Reason::None && last->joinedBehind ? Reason::Adjacent : reason;
+    joined |= last->joinedBehind;
+    return joined && (reason == Reason::None || reason == Reason::PCharArgument) ? Reason::Adjacent : reason;
 }
 
 CallPlaces::CallPlaces(std::string_view text, bool isCpp)
@@ -102,7 +111,9 @@ CallPlaces::CallPlaces(std::string_view text, bool isCpp)
 CallPlaces::~CallPlaces() = default;
 
 std::string_view CallPlaces::WhyNot(std::size_t begin, std::size_t end) const {
-    return places::Phrase(impl_->WhyNot(begin, end));
+    const Reason reason = impl_->WhyNot(begin, end);
+    if (reason != Reason::PCharArgument) return places::Phrase(reason);
+    return PCharArguments::Note(impl_->FirstLiteral(begin)->routine, impl_->isCpp);
 }
 
 const std::vector<CallPlaces::ConstSection>& CallPlaces::ConstSections() const {

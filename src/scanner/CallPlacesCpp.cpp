@@ -2,6 +2,7 @@
 #include "scanner/CallPlacesWalk.h"
 
 #include "ide/CppLexer.h"
+#include "scanner/PCharArguments.h"
 #include "scanner/WordTable.h"
 
 namespace glotta::places {
@@ -145,10 +146,12 @@ private:
             TakeWord(word);
             s_.word = word;
             s_.before = AWord;
+            arguments_.TakeWord(TextOf(token));
             return;
         }
         case TokenKind::Symbol:
             TakeSymbol(token);
+            arguments_.TakeSymbol(text_[token.begin]);
             return;
         case TokenKind::String:
             TakeLiteral(token);
@@ -168,6 +171,7 @@ private:
         default:
             s_.seen |= NotADeclaration;
             s_.before = ANumber;
+            arguments_.TakeOther();
         }
     }
 
@@ -213,6 +217,9 @@ private:
         if (behindLiteral) out_.places.back().joinedBehind = true;
         Place place{token.begin, token.end, Effective(), true};
         place.joinedBefore = behindLiteral || behindMacro;
+        place.routine = arguments_.Routine();
+        if (place.routine && place.reason == Reason::None) place.reason = Reason::PCharArgument;
+        arguments_.TakeOther();
         out_.places.push_back(place);
         behindAngle_ = s_.before == '<';
         s_.seen |= NotADeclaration;
@@ -422,6 +429,7 @@ private:
     Walked out_;
     State s_;
     Nesting<State> nesting_;
+    PCharArguments arguments_{true};
     bool behindAngle_ = false; // the last literal
 };
 

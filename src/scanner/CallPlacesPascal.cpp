@@ -1,6 +1,7 @@
 // Object Pascal: a call can stand inside a statement part alone.
 #include "ide/PascalLexer.h"
 #include "scanner/CallPlacesPascalState.h"
+#include "scanner/PCharArguments.h"
 
 namespace glotta::places {
 
@@ -33,10 +34,12 @@ private:
             if (word != Word::None) TakeWord(word, token);
             s_.word = word;
             s_.before = AWord;
+            arguments_.TakeWord(TextOf(token));
             return;
         }
         case TokenKind::Symbol: {
             const char symbol = Symbol(token);
+            arguments_.TakeSymbol(symbol);
             if (s_.header) TakeInHeader(Word::None, symbol);
             TakeSymbol(symbol, token);
             s_.word = symbol == '.' ? Word::None : s_.word;
@@ -45,8 +48,7 @@ private:
         }
         case TokenKind::String:
             s_.header = false;
-            out_.places.push_back({token.begin, token.end, WhyNot(TextOf(token)), true});
-            s_.before = ALiteral;
+            TakeLiteral(token);
             return;
         case TokenKind::Directive:
             Cover(token, Reason::Directive);
@@ -64,7 +66,18 @@ private:
         default:
             s_.header = false;
             s_.before = ANumber;
+            arguments_.TakeOther();
         }
+    }
+
+    void TakeLiteral(const Token& token) {
+        Place place{token.begin, token.end, WhyNot(TextOf(token)), true};
+        if (place.reason == Reason::None || place.reason == Reason::SingleCharacter)
+            place.routine = arguments_.Routine();
+        if (place.routine) place.reason = Reason::PCharArgument;
+        out_.places.push_back(place);
+        s_.before = ALiteral;
+        arguments_.TakeOther();
     }
 
     char Symbol(const Token& token) const {
@@ -490,6 +503,7 @@ private:
     Walked out_;
     State s_;
     Nesting<State> nesting_;
+    PCharArguments arguments_{false};
 };
 
 } // namespace

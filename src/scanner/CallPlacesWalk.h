@@ -30,6 +30,7 @@ enum class Reason : std::uint8_t {
     Range,
     SingleCharacter,
     CaseLabel,
+    PCharArgument,
     // C/C++
     FileScope,
     DefaultArgument,
@@ -49,6 +50,7 @@ struct Place {
     Reason reason = Reason::None;
     bool literal = false;
     bool joinedBefore = false, joinedBehind = false; // C/C++: adjacent literals and macros are one text
+    std::uint8_t routine = 0;                        // whose pointer argument the literal is; 0: of none
 };
 
 struct Walked {

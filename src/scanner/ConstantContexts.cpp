@@ -1,53 +1,12 @@
 // Walks a unit once and collects the names that the compiler must know as constants.
 #include "scanner/ConstRewrite.h"
+#include "scanner/PCharArguments.h"
 
 namespace glotta {
 
 namespace {
 
 using Words = std::unordered_set<std::string_view, TextHash, TextEqual>;
-
-// Routines that take a PChar, to which a constant converts by itself and a variable does not.
-const Words& PCharRoutines() {
-    static const Words words = {"MessageBox",
-                                "MessageBoxEx",
-                                "ShellExecute",
-                                "FindWindow",
-                                "FindWindowEx",
-                                "SetWindowText",
-                                "LoadLibrary",
-                                "GetModuleHandle",
-                                "GetProcAddress",
-                                "LoadIcon",
-                                "LoadCursor",
-                                "LoadBitmap",
-                                "CreateFile",
-                                "DeleteFile",
-                                "CreateMutex",
-                                "CreateEvent",
-                                "OpenMutex",
-                                "RegisterWindowMessage",
-                                "OutputDebugString",
-                                "TextOut",
-                                "DrawText",
-                                "WinExec",
-                                "StrCopy",
-                                "StrPCopy",
-                                "StrCat",
-                                "StrComp",
-                                "StrIComp",
-                                "StrPos",
-                                "StrLCopy",
-                                "lstrcpy",
-                                "lstrcmp",
-                                "RegisterClipboardFormat",
-                                "WritePrivateProfileString",
-                                "GetPrivateProfileString",
-                                "SendMessage",
-                                "PostMessage",
-                                "FatalAppExit"};
-    return words;
-}
 
 // Words whose operand is a constant: directives of routines and properties.
 const Words& OperandWords() {
@@ -68,10 +27,15 @@ public:
             if (token.kind == TokenKind::Identifier)
                 result_.alternative_.emplace(tokens_.Text().substr(token.begin, token.end - token.begin));
         for (at_ = 0; at_ < tokens_.Count(); ++at_) {
-            if (tokens_.IsWord(at_))
+            if (tokens_.IsWord(at_)) {
                 Word();
-            else if (tokens_.Kind(at_) == TokenKind::Symbol)
+                arguments_.TakeWord(Text(at_));
+            } else if (tokens_.Kind(at_) == TokenKind::Symbol) {
                 Symbol();
+                arguments_.TakeSymbol(Text(at_)[0]);
+            } else {
+                arguments_.TakeOther();
+            }
         }
     }
 
@@ -98,10 +62,10 @@ private:
 
     void Word() {
         const bool member = at_ > 0 && Text(at_ - 1) == ".";
-        if (!member && blocks_ > 0 ? Statement() : !member && open_.empty() && Declaration()) return;
+        if (!member && blocks_ > 0 ? Statement() : !member && open_ == 0 && Declaration()) return;
         if (blocks_ > 0) {
             if (collecting_) Collect(at_);
-            Argument();
+            if (arguments_.Routine()) result_.pointer_.emplace(Text(at_));
             return;
         }
         if (section_ == Section::Const && !named_) {
@@ -169,40 +133,26 @@ private:
         return true;
     }
 
-    // A bare argument of a routine that takes a PChar.
-    void Argument() {
-        const std::string_view before = at_ > 0 ? Text(at_ - 1) : std::string_view(), behind = Text(at_ + 1);
-        if (!open_.empty() && open_.back() && (before == "(" || before == ",") &&
-            (behind == ")" || behind == ","))
-            result_.pointer_.emplace(Text(at_));
-    }
-
     void Symbol() {
         const std::string_view symbol = Text(at_);
         if (symbol == "(") {
-            open_.push_back(blocks_ > 0 && at_ > 0 && TakesPChar(Text(at_ - 1)));
+            ++open_;
             if (section_ == Section::Type) collecting_ = false;
         } else if (symbol == ")") {
-            if (!open_.empty()) open_.pop_back();
+            open_ -= open_ > 0 ? 1 : 0;
             if (section_ == Section::Heading) collecting_ = false;
         } else if (symbol == "[") {
             brackets_ += blocks_ == 0 ? 1 : 0;
         } else if (symbol == "]") {
             brackets_ -= brackets_ > 0 ? 1 : 0;
         } else if (symbol == ";") {
-            if (section_ == Section::Const && open_.empty()) named_ = false;
+            if (section_ == Section::Const && open_ == 0) named_ = false;
             collecting_ = false;
         } else if (symbol == "=" && blocks_ == 0) {
             collecting_ = true;
         } else if (symbol == ".." || (symbol == ":" && blocks_ > 0)) {
             Labels(symbol);
         }
-    }
-
-    static bool TakesPChar(std::string_view routine) {
-        if (PCharRoutines().contains(routine)) return true;
-        const bool wideOrAnsi = routine.ends_with('A') || routine.ends_with('W');
-        return wideOrAnsi && PCharRoutines().contains(routine.substr(0, routine.size() - 1));
     }
 
     // The names before the colon of a case label, and on both sides of a range.
@@ -218,10 +168,10 @@ private:
     const UnitTokens& tokens_;
     std::size_t at_ = 0;
     Section section_ = Section::None;
-    bool named_ = false;      // the declaration's name has passed
-    bool collecting_ = false; // what follows is a constant expression
-    unsigned blocks_ = 0, brackets_ = 0;
-    std::vector<bool> open_; // parentheses: whether those of a routine that takes a PChar
+    bool named_ = false;                            // the declaration's name has passed
+    bool collecting_ = false;                       // what follows is a constant expression
+    unsigned blocks_ = 0, brackets_ = 0, open_ = 0; // open_: parentheses
+    PCharArguments arguments_{false};
 };
 
 void ConstantContexts::Add(const UnitTokens& unit) {

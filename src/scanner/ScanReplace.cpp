@@ -29,19 +29,24 @@ struct ScanReplace::Job {
     std::string formName;           // of the form whose component receives the strings
     std::string formUnit;           // that form's unit file
     TgxCustomLang* glotta = nullptr;
-    std::string reference;          // the component as the replacements name it
+    std::string reference; // the component as the replacements name it
 
     const SourceFlavour* flavour = nullptr;
     IOTASourceEditor* editor = nullptr;
     std::string text;
-    std::unique_ptr<ConstRewrite> constants;
     std::unique_ptr<CallPlaces> places;
+    std::unique_ptr<ConstRewrite> constants;
 
+    bool PascalOfCppForm() const { return !flavour->IsCPPSource && FlavourOf(formUnit).IsCPPSource; }
     bool OwnForm() const { return !ownForm.empty() && ownForm == formName; }
-    ReplacementContext Replacements(const SettingsValues& settings) const { return {reference, *flavour, settings}; }
+    ReplacementContext Replacements(const SettingsValues& settings) const {
+        return {reference, *flavour, settings};
+    }
 };
 
 namespace {
+
+constexpr const char* NoUseOfCpp = "a Delphi unit cannot use a C++ form";
 
 std::vector<ComponentString> StringsOf(const TgxCustomLang& glotta) {
     std::vector<ComponentString> strings;
@@ -50,12 +55,26 @@ std::vector<ComponentString> StringsOf(const TgxCustomLang& glotta) {
     return strings;
 }
 
-bool IsWritten(const TgxFoundSourceString& row) { return !row.Deleted && !row.Ignored && row.Note.empty(); }
+bool IsWritten(const TgxFoundSourceString& row) {
+    return !row.Deleted && !row.Ignored && row.Note.empty();
+}
+
+void Append(TextEdits& to, TextEdits edits) {
+    std::move(edits.begin(), edits.end(), std::back_inserter(to));
+}
+
+// Nothing was written yet when this throws.
+void Prove(const std::string& fileName, const EditVerdicts& verdicts) {
+    for (const auto* reasons : {&verdicts.rows, &verdicts.others})
+        for (const std::string& reason : *reasons)
+            if (!reason.empty())
+                throw Error(fileName + ": the rewritten unit would not be sound (" + reason +
+                            "); nothing was changed");
+}
 
 const IOTAModuleInfo* FindUnit(const IOTAProject& project, const std::string& name) {
     for (const IOTAModuleInfo& unit : project.Modules())
-        if (SameText(unit.unitName, name) || SameFileName(unit.fileName, name))
-            return &unit;
+        if (SameText(unit.unitName, name) || SameFileName(unit.fileName, name)) return &unit;
     return nullptr;
 }
 
@@ -75,8 +94,7 @@ bool ScanReplace::DoScanReplace(const std::string& unitName, const std::string& 
     LocateComponent(job, stringsForm);
     OpenUnit(job);
     context_.results.source = job.text;
-    if (job.text.empty())
-        return false;
+    if (job.text.empty()) return false;
 
     Ui& ui = context_.ide.GetUi();
     Progress progress(ui, "Scanning...");
@@ -100,18 +118,18 @@ bool ScanReplace::DoScanReplace(const std::string& unitName, const std::string& 
     progress.Text("Checking duplicates...");
     ShareDuplicates(found, job.Replacements(settings));
     progress.Close();
-    if (!ReviewRows(job))
-        return false;
+    if (!ReviewRows(job)) return false;
 
     Progress modifying(ui, "Modifying source...");
     found.Sort();
     bool modified = Modify(job);
     modifying.Close();
-    if (!modified)
-        return false;
+    TellLeftAlone(job);
+    if (!modified) return false;
     std::string done = "Source file translated. All string constants added to \"Strings\" property.";
     if (constMode)
-        done += "\r\nYou need to change CONST to VAR declaration or turn ON \"Assignable typed constants\" compiler "
+        done += "\r\nYou need to change CONST to VAR declaration or turn ON \"Assignable typed constants\" "
+                "compiler "
                 "option!";
     ui.MessageDlg(done, MsgType::Information);
     return true;
@@ -126,8 +144,7 @@ void ScanReplace::LocateUnit(Job& job, const std::string& unitName) {
     } else {
         IOTAProject* project = ide.GetActiveProject();
         const IOTAModuleInfo* unit = project ? FindUnit(*project, unitName) : nullptr;
-        if (!unit)
-            throw Error(unitName + ": the project has no such unit");
+        if (!unit) throw Error(unitName + ": the project has no such unit");
         job.unitName = unit->unitName;
         job.fileName = unit->fileName;
         job.ownForm = unit->formName;
@@ -139,12 +156,10 @@ void ScanReplace::LocateComponent(Job& job, const std::string& stringsForm) {
     job.formName = stringsForm.empty() ? job.ownForm : stringsForm;
     if (const FormsListItem* form = ide.Forms().FindExact(job.formName)) {
         job.formUnit = form->fileName;
-        if (!ide.OpenFile(form->fileName, false))
-            throw EGlottaSilent();
+        if (!ide.OpenFile(form->fileName, false)) throw EGlottaSilent();
         if (TComponent* root = ide.GetOwnerByName(job.formName))
             for (TComponent* component : root->Components())
-                if ((job.glotta = dynamic_cast<TgxCustomLang*>(component)))
-                    break;
+                if ((job.glotta = dynamic_cast<TgxCustomLang*>(component))) break;
     }
     if (!job.glotta) {
         ide.GetUi().MessageDlg("No forms found with TGlotta! Double click on the form to insert TGlotta.",
@@ -160,8 +175,7 @@ void ScanReplace::OpenUnit(Job& job) {
         bool withForm = context_.settings.Values().AddFormName || !job.OwnForm();
         job.reference = ComponentReference(job.formName, job.glotta->Name(), withForm, *job.flavour);
     }
-    if (!context_.ide.OpenFile(job.fileName, false))
-        throw EGlottaSilent();
+    if (!context_.ide.OpenFile(job.fileName, false)) throw EGlottaSilent();
     job.editor = context_.ide.GetSourceEditorFromFileName(job.fileName);
     job.text = context_.ide.GetUnitSource(job.fileName);
 }
@@ -182,7 +196,9 @@ void ScanReplace::Scan(Job& job) {
         input.begin = ByteOffset(job.text, job.editor->PosToOffset(view.BlockStart()));
         input.end = ByteOffset(job.text, job.editor->PosToOffset(view.BlockAfter()));
     }
-    input.onFound = [&ui](std::size_t found) { ui.SetProgress("Found strings so far: " + std::to_string(found)); };
+    input.onFound = [&ui](std::size_t found) {
+        ui.SetProgress("Found strings so far: " + std::to_string(found));
+    };
     ScanOutput output = ScanSource(input, rules);
     context_.results.found = std::move(output.found);
     context_.results.skipped = std::move(output.skipped);
@@ -198,25 +214,40 @@ bool ScanReplace::FindsConstants(const std::string& unitName) {
     NoteConstants(job, root ? std::string_view(root->ClassName()) : std::string_view());
     const TgxFoundSourceStrings& found = context_.results.found;
     for (std::size_t i = 0; i < found.Count(); ++i)
-        if (found[i].Note.empty())
-            return true;
+        if (found[i].Note.empty()) return true;
     return false;
 }
 
-// A call in a routine that is no method of the form cannot name the component alone, nor a form without a variable.
+// What the developer kept in the review and the proof refused. Constants that are left alone say so in the
+// review.
+void ScanReplace::TellLeftAlone(const Job& job) {
+    if (review_ == Review::None || job.constMode) return;
+    std::string rows;
+    const TgxFoundSourceStrings& found = context_.results.found;
+    for (std::size_t i = 0; i < found.Count(); ++i)
+        if (!found[i].Deleted && !found[i].Note.empty())
+            rows +=
+                "\r\nLine " + std::to_string(found[i].Line + 1) + ", " + found[i].ID + ": " + found[i].Note;
+    if (!rows.empty())
+        context_.ide.GetUi().MessageDlg("Left alone, because the unit would not be sound:" + rows,
+                                        MsgType::Information);
+}
+
+// A call in a routine that is no method of the form cannot name the component alone, nor a form without a
+// variable.
 void ScanReplace::NoteUnreachable(Job& job) {
-    FormReach reach(job.text, job.flavour->IsCPPSource, job.glotta->Owner()->ClassName());
-    bool alone = job.reference == job.glotta->Name();
+    const std::string& formClass = job.glotta->Owner()->ClassName();
+    FormReach reach(job.text, job.flavour->IsCPPSource, formClass);
+    const bool alone = job.reference == job.glotta->Name();
     std::string why;
     if (!alone)
         why = FormReach::WhyNoVariable(job.OwnForm() ? job.text : context_.ide.GetUnitSource(job.formUnit),
-                                       job.flavour->IsCPPSource, job.formName, job.glotta->Owner()->ClassName());
+                                       FlavourOf(job.formUnit).IsCPPSource, job.formName, formClass);
+    if (job.PascalOfCppForm()) why = NoUseOfCpp;
     TgxFoundSourceStrings& found = context_.results.found;
-    for (std::size_t i = 0; i < found.Count(); ++i) {
-        if (!found[i].Note.empty())
-            continue;
-        found[i].Note = alone ? reach.WhyNotAlone(found[i].Begin, job.reference) : why;
-    }
+    for (std::size_t i = 0; i < found.Count(); ++i)
+        if (found[i].Note.empty())
+            found[i].Note = alone ? reach.WhyNotAlone(found[i].Begin, job.reference) : why;
 }
 
 void ScanReplace::NoteConstants(Job& job, std::string_view formClass) {
@@ -225,20 +256,22 @@ void ScanReplace::NoteConstants(Job& job, std::string_view formClass) {
     TgxFoundSourceStrings& found = context_.results.found;
     for (std::size_t i = 0; i < found.Count(); ++i) {
         TgxFoundSourceString& row = found[i];
+        if (row.Note.empty() && job.PascalOfCppForm()) row.Note = NoUseOfCpp;
         if (row.Note.empty())
-            row.Note = job.constants->WhyNotConst({row.Constant, row.Begin, row.End, row.Value}, &UsesElsewhere(job));
+            row.Note =
+                job.constants->WhyNotConst({row.Constant, row.Begin, row.End, row.Value}, &UsesInProject());
     }
 }
 
-const ConstantContexts& ScanReplace::UsesElsewhere(const Job& job) {
-    if (project_)
-        return *project_;
+const ConstantContexts& ScanReplace::UsesInProject() {
+    if (project_) return *project_;
     project_ = std::make_unique<ConstantContexts>();
     IOTAProject* project = context_.ide.GetActiveProject();
+    if (!project) return *project_;
     for (const IOTAModuleInfo& unit : project->Modules()) {
-        if (unit.missing || SameFileName(unit.fileName, job.fileName))
-            continue;
-        std::string source = context_.ide.IsFileOpen(unit.fileName) ? context_.ide.GetUnitSource(unit.fileName) : "";
+        if (unit.missing) continue;
+        std::string source =
+            context_.ide.IsFileOpen(unit.fileName) ? context_.ide.GetUnitSource(unit.fileName) : "";
         if (source.empty()) {
             std::string bytes = ReadFile(PathFromText(unit.fileName));
             source = Decode(bytes, DetectEncoding(bytes));
@@ -249,55 +282,51 @@ const ConstantContexts& ScanReplace::UsesElsewhere(const Job& job) {
 }
 
 bool ScanReplace::ReviewRows(Job& job) {
-    if (review_ == Review::None)
-        return true;
+    if (review_ == Review::None) return true;
     TfrmFound form({context_.ide, context_.settings, context_.registry, context_.results.found,
-                    context_.results.skipped, job.text, *job.flavour, job.unitName, job.reference, job.glotta});
+                    context_.results.skipped, job.text, *job.flavour, job.unitName, job.reference,
+                    job.glotta});
     form.caption = "Found String Constants (" + job.unitName + ")";
-    if (context_.ide.GetUi().ShowModal(form) != ModalResult::OK)
-        return false;
-    // What the developer saw with its note and kept is the developer's wish; the proof below still guards the source.
+    if (context_.ide.GetUi().ShowModal(form) != ModalResult::OK) return false;
+    // What the developer saw with its note and kept is the developer's wish; the proof below still guards the
+    // source.
     TgxFoundSourceStrings& found = context_.results.found;
     for (std::size_t i = 0; i < found.Count() && !job.constMode; ++i)
-        if (!found[i].Deleted)
-            found[i].Note.clear();
+        if (!found[i].Deleted) found[i].Note.clear();
     return true;
 }
 
 bool ScanReplace::Modify(Job& job) {
     TextEdits rows = job.constMode ? TextEdits() : SoundLiteralEdits(job);
     TextEdits others = job.constMode ? ConstantEdits(job) : TextEdits();
-    bool written = !rows.empty() || !others.empty();
+    const bool written = !rows.empty() || !others.empty();
     for (TextEdit& mark : IgnoreMarks(job))
         others.push_back(std::move(mark));
-    if (rows.empty() && others.empty())
-        return false;
-    if (written) {
-        if (job.constMode)
-            WireForm(job, others);
-        else
-            ReachForm(job, others);
+    if (rows.empty() && others.empty()) return false;
+    std::string formText; // of the form's unit, when that is another
+    TextEdits formEdits;
+    if (written && !job.constMode) {
+        ReachForm(job, others);
+    } else if (written && job.OwnForm()) {
+        Append(others, WireForm(job, job.text));
+    } else if (written) {
+        formText = context_.ide.GetUnitSource(job.formUnit);
+        formEdits = WireForm(job, formText);
+        Append(formEdits, pascal::AddImplementationUses(formText, job.unitName));
     }
-    Prove(job, rows, others);
-    rows.insert(rows.end(), others.begin(), others.end());
-    WriteEdits(*job.editor, job.text, std::move(rows));
+    Prove(job.fileName, CheckEdits(job.text, rows, others, job.flavour->IsCPPSource));
+    Prove(job.formUnit, CheckEdits(formText, {}, formEdits, false));
 
+    Append(rows, std::move(others));
+    WriteEdits(*job.editor, job.text, std::move(rows));
+    if (!formEdits.empty())
+        WriteEdits(*context_.ide.GetSourceEditorFromFileName(job.formUnit), formText, std::move(formEdits));
+    if (!written) return true;
     TgxFoundSourceStrings& found = context_.results.found;
     for (std::size_t i = 0; i < found.Count(); ++i)
-        if (IsWritten(found[i]))
-            job.glotta->AddString(found[i].ID, found[i].Value);
-    if (written)
-        context_.ide.MarkModifiedForm(job.formUnit);
+        if (IsWritten(found[i])) job.glotta->AddString(found[i].ID, found[i].Value);
+    context_.ide.MarkModifiedForm(job.formUnit);
     return true;
-}
-
-void ScanReplace::Prove(const Job& job, const TextEdits& rows, const TextEdits& others) {
-    EditVerdicts verdicts = CheckEdits(job.text, rows, others, job.flavour->IsCPPSource);
-    for (const auto* reasons : {&verdicts.rows, &verdicts.others})
-        for (const std::string& reason : *reasons)
-            if (!reason.empty())
-                throw Error(job.fileName + ": the rewritten unit would not be sound (" + reason +
-                            "); nothing was changed");
 }
 
 // Behind the line of each row that the developer marked, once a line.
@@ -305,8 +334,7 @@ TextEdits ScanReplace::IgnoreMarks(const Job& job) {
     TextEdits marks;
     const TgxFoundSourceStrings& found = context_.results.found;
     for (std::size_t i = 0; i < found.Count(); ++i) {
-        if (!found[i].Ignored || found[i].Deleted)
-            continue;
+        if (!found[i].Ignored || found[i].Deleted) continue;
         std::size_t end = std::min(job.text.find("\r\n", found[i].End), job.text.size());
         if (marks.empty() || marks.back().end != end)
             marks.push_back({end, end, " " + std::string(job.flavour->IGNORELINE)});
@@ -326,11 +354,9 @@ TextEdits ScanReplace::SoundLiteralEdits(Job& job) {
                 edits.push_back(ReplacementEdit(job.text, found[i]));
             }
         EditVerdicts verdicts = CheckEdits(job.text, edits, {}, job.flavour->IsCPPSource);
-        if (verdicts.Sound())
-            return edits;
+        if (verdicts.Sound()) return edits;
         for (std::size_t i = 0; i < rows.size(); ++i)
-            if (!verdicts.rows[i].empty())
-                rows[i]->Note = verdicts.rows[i];
+            if (!verdicts.rows[i].empty()) rows[i]->Note = verdicts.rows[i];
     }
 }
 
@@ -344,9 +370,8 @@ TextEdits ScanReplace::ConstantEdits(Job& job) {
 }
 
 // The form's handlers call UpdateStrings, which gives every constant its text.
-void ScanReplace::WireForm(Job& job, TextEdits& unitEdits) {
+TextEdits ScanReplace::WireForm(const Job& job, std::string_view formText) {
     IdeServices& ide = context_.ide;
-    std::string formText = job.OwnForm() ? job.text : ide.GetUnitSource(job.formUnit);
     TComponent& root = *job.glotta->Owner();
     WiringInput input;
     input.text = formText;
@@ -364,27 +389,17 @@ void ScanReplace::WireForm(Job& job, TextEdits& unitEdits) {
         if (IsWritten(found[i]))
             input.assignments.push_back(
                 {AssignmentTarget(formText, root.ClassName(), found[i].Constant, job.unitName), found[i].ID});
-    Wiring wiring = WireUpdateStrings(input);
-    if (job.OwnForm()) {
-        for (TextEdit& edit : wiring.edits)
-            unitEdits.push_back(std::move(edit));
-        return;
-    }
-    for (TextEdit& edit : pascal::AddImplementationUses(formText, job.unitName))
-        wiring.edits.push_back(std::move(edit));
-    if (IOTASourceEditor* editor = ide.GetSourceEditorFromFileName(job.formUnit))
-        WriteEdits(*editor, formText, std::move(wiring.edits));
+    return WireUpdateStrings(input).edits;
 }
 
 // A unit whose calls name another form's component can see that form.
 void ScanReplace::ReachForm(const Job& job, TextEdits& edits) {
-    if (job.OwnForm())
-        return;
-    std::string unit = PathText(PathFromText(job.formUnit).stem());
-    TextEdits added = job.flavour->IsCPPSource ? cpp::AddInclude(job.text, unit + ".h", false)
-                                               : pascal::AddImplementationUses(job.text, unit);
-    for (TextEdit& edit : added)
-        edits.push_back(std::move(edit));
+    if (job.OwnForm()) return;
+    const std::string unit = PathText(PathFromText(job.formUnit).stem());
+    const char* header =
+        FlavourOf(job.formUnit).IsCPPSource ? ".h" : ".hpp"; // the compiler makes .hpp of Delphi units
+    Append(edits, job.flavour->IsCPPSource ? cpp::AddInclude(job.text, unit + header, false)
+                                           : pascal::AddImplementationUses(job.text, unit));
 }
 
 } // namespace glotta

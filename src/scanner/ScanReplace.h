@@ -62,13 +62,13 @@ private:
     void NoteConstants(Job& job, std::string_view formClass);
     bool ReviewRows(Job& job);
     bool Modify(Job& job);
-    void Prove(const Job& job, const TextEdits& rows, const TextEdits& others);
+    void TellLeftAlone(const Job& job);
     TextEdits IgnoreMarks(const Job& job);
     TextEdits SoundLiteralEdits(Job& job);
     TextEdits ConstantEdits(Job& job);
-    void WireForm(Job& job, TextEdits& unitEdits);
+    TextEdits WireForm(const Job& job, std::string_view formText);
     void ReachForm(const Job& job, TextEdits& edits);
-    const ConstantContexts& UsesElsewhere(const Job& job);
+    const ConstantContexts& UsesInProject();
 
     ScanContext context_;
     Review review_;

@@ -1,6 +1,7 @@
 #include "scanner/SoundRewrite.h"
 
 #include "ide/SourceTokens.h"
+#include "scanner/TextMacro.h"
 
 #include <algorithm>
 
@@ -109,8 +110,7 @@ private:
     bool IsWrapper(const Token& token, std::string_view text) const {
         if (!isCpp_) return false;
         if (token.kind == TokenKind::Symbol) return text == "(" || text == ")";
-        return token.kind == TokenKind::Identifier &&
-               (text == "_T" || text == "TEXT" || text == "_TEXT" || text == "__T" || text == "__TEXT");
+        return token.kind == TokenKind::Identifier && IsTextMacro(text);
     }
 
     std::string CheckReplacement(Checked& checked, std::string_view tail) const {

@@ -17,7 +17,7 @@ std::string Reasons(std::string_view text, bool isCpp) {
 }
 
 struct Case {
-    std::string_view text, reasons;
+    std::string text, reasons;
 };
 
 void Expect(std::initializer_list<Case> cases, bool isCpp, std::string_view before) {
@@ -73,6 +73,30 @@ TEST(CallPlaces, PascalDeclarations) {
              "begin s('cc') end;",
              "'aa' default value of a parameter|'bb' in a const section|'cc' "}},
            false, "");
+}
+
+TEST(CallPlaces, ArgumentsThatArePointers) {
+    const std::string is = " argument of MessageBox is a PChar: typecast the call";
+    Expect(
+        {
+            {"MessageBox(0, 'aa', 'bb', 0); Application.MessageBox('cc', PChar('dd'), MB_OK); messageboxa(h, "
+             "P('ee'), s, x)",
+             "'aa'" + is + "|'bb'" + is + "|'cc'" + is + "|'dd' |'ee' "},
+            {"MessageBox(0, 'aa' + #13 + 'bb', ('c' + Name), 0)",
+             "'aa'" + is + "|#13" + is + "|'bb'" + is + "|'c'" + is},
+            {"Canvas.TextOut(1, 2, 'aa'); TextOut(DC, 1, 2, 'bb', 2); ShowMessage('cc'); MessageBox := 'dd'",
+             "'aa' |'bb' argument of TextOut is a PChar: typecast the call|'cc' |'dd' "},
+            {"WinHelp(H[F('aa', 'bb')], 'cc', 0, 0); Run('dd')",
+             "'aa' |'bb' |'cc' argument of WinHelp is a PChar: typecast the call|'dd' "},
+            {"MessageBox(0, x; Run(1, 'aa', 'bb'); end; procedure Q; begin StrPCopy(P, 'cc')",
+             "'aa' |'bb' |'cc' "},
+        },
+        false, "unit U; implementation procedure P; begin ");
+    Expect({{"MessageBox(0, _T(\"aa\"), (\"bb\" + s).c_str(), 0); strcpy(b, \"cc\"); f(\"dd\");",
+             "\"aa\" argument of MessageBox is a char pointer: add .c_str() to the call|\"bb\" |\"cc\" "
+             "argument of strcpy is "
+             "a char pointer: add .c_str() to the call|\"dd\" "}},
+           true, "void f() { ");
 }
 
 TEST(CallPlaces, PascalStatements) {
