@@ -150,11 +150,11 @@ void Bindings::Bind(QAction& item, TAction& action) {
     item.setCheckable(bool(action.checked));
     Always([&] {
         item.setText(Q(action.caption));
+        item.setIconText(Q(action.caption).remove('&')); // with its dots
         QString hint = action.hint.empty() ? Q(action.caption).remove('&') : Q(action.hint);
         if (!action.shortcut.empty())
             hint += " (" + item.shortcut().toString(QKeySequence::NativeText) + ")";
         item.setToolTip(hint);
-        item.setStatusTip(Q(action.hint));
         item.setEnabled(action.Enabled());
         item.setChecked(action.Checked());
     });

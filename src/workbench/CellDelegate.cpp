@@ -2,6 +2,7 @@
 
 #include "workbench/GridView.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
@@ -20,6 +21,10 @@ QColor Blend(const QColor& base, const QColor& tint, qreal part) {
 }
 
 } // namespace
+
+QColor NotedColor(const QPalette& palette) {
+    return Blend(palette.color(QPalette::Base), QColor(255, 160, 0), 0.28);
+}
 
 CellDelegate::CellDelegate(GridView& view) : QStyledItemDelegate(&view), view_(view) {}
 
@@ -55,7 +60,7 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
     if (column == 0 && view_.RowIcon)
         showIcon(view_.RowIcon(index.row()));
     if (look == RowLook::Noted) {
-        option->backgroundBrush = Blend(palette.color(QPalette::Base), QColor(255, 160, 0), 0.28);
+        option->backgroundBrush = NotedColor(palette);
         if (column == 0)
             showIcon(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning));
     } else if (look == RowLook::Marked) {
@@ -68,6 +73,20 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
         option->backgroundBrush = Blend(look == RowLook::Noted ? option->backgroundBrush.color()
                                                                : palette.color(QPalette::Base),
                                         palette.color(QPalette::Highlight), 0.22);
+}
+
+// The current cell has a frame, for commands may work on its column.
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QStyleOptionViewItem plain = option;
+    plain.state.setFlag(QStyle::State_HasFocus, false);
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (index != view_.currentIndex() || index.model()->columnCount() < 2)
+        return;
+    const bool selected = view_.Grid() && view_.Grid()->IsSelected(std::size_t(index.row()));
+    painter->save();
+    painter->setPen(QPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight), 1));
+    painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
+    painter->restore();
 }
 
 QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,

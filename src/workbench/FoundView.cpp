@@ -1,12 +1,12 @@
 #include "scanner/_scan.h"
 #include "ui_FoundView.h"
 #include "workbench/ActionBar.h"
+#include "workbench/CellDelegate.h"
 #include "workbench/SourcePreview.h"
 #include "workbench/Views.h"
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QStyle>
 
 namespace glotta {
 
@@ -59,6 +59,9 @@ private:
             ShowSource(*c.edPreview, form.edPreview(), form.PreviewLine, form.PreviewColumn, form.PreviewLength);
         });
         c.lblNote->setAutoFillBackground(true);
+        QPalette noted = c.lblNote->palette();
+        noted.setColor(QPalette::Window, NotedColor(noted));
+        c.lblNote->setPalette(noted);
         bind.Follow(form.lblNote, [this, &c] {
             c.lblNote->setText(Q(form.lblNote()));
             c.lblNote->setHidden(form.lblNote().empty());
@@ -88,10 +91,6 @@ private:
 
     void MakeToolBar() {
         QToolBar& bar = *controls.ToolBar;
-        Shown(form.acModifySource)->setIcon(style()->standardIcon(QStyle::SP_DialogApplyButton));
-        Shown(form.acCancel)->setIcon(style()->standardIcon(QStyle::SP_DialogCancelButton));
-        Shown(form.acDeleteRow)->setIcon(style()->standardIcon(QStyle::SP_TrashIcon));
-        Shown(form.acHelp)->setIcon(style()->standardIcon(QStyle::SP_DialogHelpButton));
         bar.addActions({Shown(form.acModifySource), Shown(form.acCancel)});
         bar.addSeparator();
         bar.addActions({Shown(form.acDeleteRow), Shown(form.acStartID), Shown(form.acExclude)});
@@ -102,6 +101,7 @@ private:
         ways->addActions({Shown(form.acMarktoIgnore), Shown(form.acRemoveIgnoreMark)});
         ignore->setMenu(ways);
         bar.addWidget(ignore);
+        ignore->setMinimumWidth(ignore->sizeHint().width() + 12); // its arrow
         bar.addSeparator();
         bar.addActions({Shown(form.acSwitchDeleted), Shown(form.acRestoreDeletedRow), Shown(form.acViewSkipped)});
         bar.addSeparator();

@@ -1,0 +1,184 @@
+// The main job by mouse and keyboard: after it the files on disk are what is expected in data/<case>.
+#include "scanner/_scan.h"
+#include "translation/TranslUnits.h"
+#include "workbench/ExpertDesk.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace glotta {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Files = std::map<std::string, std::string>;
+
+std::string BytesOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+Files FilesIn(const fs::path& folder) {
+    Files files;
+    if (fs::exists(folder))
+        for (const auto& entry : fs::recursive_directory_iterator(folder))
+            if (entry.is_regular_file())
+                files[fs::relative(entry.path(), folder).generic_string()] = BytesOf(entry.path());
+    return files;
+}
+
+struct Job : ExpertDesk {
+    using ExpertDesk::ExpertDesk;
+
+    QMenuBar& Menu() { return *OpenedMain().findChild<QMenuBar*>("MainMenu"); }
+    QWidget& OpenedMain() { return expert->MainWindow() ? *ui.WindowOf(*expert->MainWindow()) : OpenMainWindow(); }
+    void SelectForm(const char* form) {
+        GridView& list = Grid(OpenedMain(), "lvFormNames");
+        ClickCell(list, RowWith(list, 0, form), 0);
+    }
+    // What is done in the review before "Modify Source"; rows where no call can stand are deleted.
+    void Review(std::function<void(GridView&, QWidget&)> use = {}) {
+        uses.push_back([this, use](TForm& form, QWidget& window) {
+            ASSERT_NE(dynamic_cast<TfrmFound*>(&form), nullptr);
+            Idle(); // until the window is active and takes shortcuts
+            GridView& grid = Grid(window, "sgStrings");
+            for (int row = 0; row < grid.model()->rowCount(); ++row)
+                if (grid.Grid()->Look(std::size_t(row)) == RowLook::Noted)
+                    ClickCell(grid, row, 2, Qt::ControlModifier);
+            if (grid.Grid()->SelectedCount() > 0)
+                QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);
+            EXPECT_EQ(grid.Grid()->SelectedCount(), 0u);
+            if (use)
+                use(grid, window);
+            Trigger(window, "Modify Source");
+        });
+    }
+    void ChooseUnit(const char* unit) {
+        uses.push_back([this, unit](TForm& form, QWidget& window) {
+            ASSERT_NE(dynamic_cast<TfrmTranslUnits*>(&form), nullptr);
+            QTest::keyClicks(window.findChild<QLineEdit*>("edUnitName"), unit);
+            Idle();
+            Click(window, "btOK");
+        });
+    }
+    // Saves all and compares what differs from the sample with data/<name>.
+    void ExpectFiles(const char* sample, const char* name) {
+        ide.SaveAll();
+        const Files before = FilesIn(PathFromText(GLOTTA_SOURCE_DIR) / "samples" / sample);
+        Files changed = FilesIn(folder.Path());
+        std::erase_if(changed, [&](const auto& file) {
+            const auto old = before.find(file.first);
+            return file.first.starts_with("settings.reg") || (old != before.end() && old->second == file.second);
+        });
+        const Files expected = FilesIn(fs::path(GLOTTA_SOURCE_DIR) / "tests/workbench/data" / name);
+        std::string names, expectedNames;
+        for (const auto& file : changed)
+            names += file.first + " ";
+        for (const auto& file : expected)
+            expectedNames += file.first + " ";
+        EXPECT_EQ(names, expectedNames);
+        for (const auto& [file, bytes] : expected)
+            EXPECT_EQ(changed[file], bytes) << name << "/" << file;
+    }
+};
+
+constexpr const char* OrderDesk = "delphi/OrderDesk";
+
+TEST(Job, FormWithEverythingOfTheReview) {
+    Job job;
+    job.SelectForm("MainForm");
+    job.Review([&](GridView& grid, QWidget& window) {
+        job.TypeCell(grid, job.RowWith(grid, 2, "'Ready'"), 1, "IDS_READY");
+        job.ClickCell(grid, job.RowWith(grid, 2, "'New order'"), 2);
+        job.Trigger(window, "Delete");
+        job.ClickCell(grid, job.RowWith(grid, 2, "'Sent'"), 2);
+        job.Trigger(window, "&Mark to Ignore");
+    });
+    job.Trigger(job.Menu(), "&With form...");
+    job.ExpectFiles(OrderDesk, "form");
+}
+
+TEST(Job, DataModule) {
+    Job job;
+    job.SelectForm("Data");
+    job.Review();
+    job.Trigger(job.Menu(), "&With form...");
+    job.ExpectFiles(OrderDesk, "datamodule");
+}
+
+TEST(Job, UnitWithoutFormIntoTheFormThatIsChosen) {
+    Job job;
+    job.SelectForm("MainForm");
+    QTest::keyClick(&job.Grid(job.OpenedMain(), "lvFormNames"), Qt::Key_Return); // puts a component on it
+    job.Idle();
+    job.ChooseUnit("Tot");
+    job.Review();
+    job.Trigger(job.Menu(), "With&out form...");
+    job.ExpectFiles(OrderDesk, "unit");
+}
+
+TEST(Job, ConstSection) {
+    Job job;
+    job.SelectForm("MainForm");
+    job.Review();
+    QAction* consts = job.Find(job.Menu().actions(), "&Const Section");
+    ASSERT_NE(consts, nullptr);
+    job.Find(consts->menu()->actions(), "&With form...")->trigger();
+    job.Idle();
+    job.ExpectFiles(OrderDesk, "const");
+}
+
+TEST(Job, SelectionFromTheEditor) {
+    Job job;
+    HostEditWindow& window = job.ide.Menus().AddEditWindow();
+    job.OpenMainWindow();
+    ASSERT_TRUE(job.ide.OpenFile((job.folder / "Main.pas").string()));
+    IOTASourceEditor* source = job.expert->Services().GetCurrentSourceEditor();
+    ASSERT_NE(source, nullptr);
+    source->View().SetBlock({70, 1}, {73, 1});
+    job.Review();
+    TMenuItem* menu = window.EditorLocalMenu.Items.FindCaption("TGlotta Expert");
+    ASSERT_NE(menu, nullptr);
+    menu->Click();
+    menu->FindCaption("Scan selected source...")->Click();
+    job.Idle();
+    job.ExpectFiles(OrderDesk, "selection");
+}
+
+TEST(Job, CppBuilderForm) {
+    Job job("cbuilder/AlarmClock", "AlarmClock.bpr");
+    job.SelectForm("ClockForm");
+    job.Review();
+    job.Trigger(job.Menu(), "&With form...");
+    job.ExpectFiles("cbuilder/AlarmClock", "cbuilder");
+}
+
+// Opens, scans, cancels, rewrites, undoes, unloads and loads again: nothing changes on disk, nothing stays behind.
+TEST(Job, UndoneAndUnloaded) {
+    Job job;
+    job.SelectForm("MainForm");
+    job.uses.push_back([](TForm&, QWidget&) {}); // cancelled
+    job.Trigger(job.Menu(), "&With form...");
+    auto& source = dynamic_cast<PlainModule&>(*job.ide.FindModule((job.folder / "Main.pas").string())).Source();
+    const auto text = [&] { return source.CreateReader()->GetText(0, 1000000); };
+    const std::string before = text();
+    job.SelectForm("MainForm");
+    job.Review();
+    job.Trigger(job.Menu(), "&With form...");
+    EXPECT_NE(text(), before);
+    EXPECT_TRUE(source.Undo());
+    EXPECT_EQ(text(), before);
+    job.Unload();
+    job.menus.Refresh();
+    EXPECT_EQ(job.Find(job.host.menuBar()->actions(), "TG&lotta Expert"), nullptr);
+    int windows = 0;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        windows += window->isVisible() && window != &job.host && !qobject_cast<QMenu*>(window);
+    EXPECT_EQ(windows, 0);
+    job.expert = ExpRegister({job.ide.Services(), job.ui, job.registry, job.helper, job.launcher, job.automation,
+                              &job.editor}).lock().get();
+    EXPECT_TRUE(job.OpenMainWindow().isVisible());
+}
+
+} // namespace
+} // namespace glotta
