@@ -3,6 +3,7 @@
 #include "workbench/CodeColors.h"
 #include "workbench/QtText.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
 
@@ -99,10 +100,10 @@ void CodeEditor::TextModified(int position, int type, const char* text, int leng
     typedAt_ = typedKey_ ? begin + edit.text.size() : std::string::npos;
     typedVersion_ = source_.Buffer().Version();
     stepOpen_ = true;
-    if (depth_ == 0) { // by the program: dropped text, input methods
-        ++depth_;
-        EndStep();
-    }
+    if (depth_ > 0) return;
+    // By the program. While the control tells of a change it takes no other.
+    ++depth_;
+    QTimer::singleShot(0, this, [this] { EndStep(); });
 }
 
 void CodeEditor::UndoStep() {

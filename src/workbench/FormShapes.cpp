@@ -44,13 +44,15 @@ public:
         picture_.caption = CaptionOf(root);
         picture_.hasFrame = root.InheritsFrom("TCustomForm") || tree_.RootBase().empty();
         if (root.InheritsFrom("TDataModule") || root.InheritsFrom("TCustomFrame")) picture_.hasFrame = false;
-        picture_.client = QSize(std::max(80, Number(root, "ClientWidth", Number(root, "Width", 320))),
-                                std::max(60, Number(root, "ClientHeight", Number(root, "Height", 240))));
+        AddMenu(root);
+        const int edges = picture_.hasFrame ? 8 : 0;
+        const int heads = (picture_.hasFrame ? 27 : 0) + (picture_.menus.isEmpty() ? 0 : 19);
+        picture_.client = QSize(std::max(80, Number(root, "ClientWidth", Number(root, "Width", 320) - edges)),
+                                std::max(60, Number(root, "ClientHeight", Number(root, "Height", 240) - heads)));
         const QRect all(QPoint(0, 0), picture_.client);
         AddChildren(root.Node(), all.topLeft(), all, 0);
         for (DrawnControl& icon : icons_)
             picture_.shapes.push_back(icon);
-        AddMenu(root);
         return std::move(picture_);
     }
 

@@ -217,18 +217,22 @@ void HostWindow::CommentClick() {
 }
 
 void HostWindow::FindClick() {
+    Page()->ShowCode();
     find_->Open(false);
 }
 
 void HostWindow::ReplaceClick() {
+    Page()->ShowCode();
     find_->Open(true);
 }
 
 void HostWindow::FindNextClick() {
+    Page()->ShowCode();
     find_->Next(true);
 }
 
 void HostWindow::FindPreviousClick() {
+    Page()->ShowCode();
     find_->Next(false);
 }
 

@@ -89,7 +89,8 @@ FormValue ValueOf(const PropertyInfo& info, const FormProperty* stored, const st
     }
     if (const auto number = ToInteger(text); number && info.kind != TTypeKind::tkEnumeration)
         return FormValue::Integer(*number);
-    if (!IsIdentifier(text)) Refuse(info, text);
+    const bool isPlainNumber = info.kind != TTypeKind::tkEnumeration && !info.typeName.starts_with('T');
+    if (isPlainNumber || !IsIdentifier(text)) Refuse(info, text);
     return FormValue::Identifier(text);
 }
 
