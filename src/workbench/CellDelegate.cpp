@@ -80,7 +80,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     QStyleOptionViewItem plain = option;
     plain.state.setFlag(QStyle::State_HasFocus, false);
     QStyledItemDelegate::paint(painter, plain, index);
-    if (index != view_.currentIndex() || index.model()->columnCount() < 2)
+    if (index != view_.currentIndex() || !(index.flags() & Qt::ItemIsEditable))
         return;
     const bool selected = view_.Grid() && view_.Grid()->IsSelected(std::size_t(index.row()));
     painter->save();

@@ -114,7 +114,7 @@ QAction* MenuAdapter::MakeAction(TMenuItem& item, QWidget& owner) {
         action = below->menuAction();
         Describe(*action, item);
         FillMenu(*below, item);
-        if (item.Count() == 0) action->setVisible(false); // a menu that offers nothing
+        if (item.Count() == 0 && item.Enabled()) action->setVisible(false); // a menu that offers nothing
         connect(below, &QMenu::aboutToShow, this, [this, below, opened = &item] {
             if (!IsThere(opened)) return;
             opened->Click();
