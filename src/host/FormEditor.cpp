@@ -3,6 +3,8 @@
 #include "platform/Error.h"
 #include "platform/Text.h"
 
+#include <unordered_set>
+
 namespace glotta {
 namespace {
 
@@ -51,8 +53,12 @@ std::string PlainFormEditor::FreeName(const std::string& className) {
     std::string name = tree_.UniqueName(className);
     const std::size_t digits = name.find_last_not_of("0123456789") + 1;
     const std::string base = name.substr(0, digits);
+    std::unordered_set<std::string, TextHash, TextEqual> taken;
+    if (InheritedNames)
+        for (std::string& inherited : InheritedNames())
+            taken.insert(std::move(inherited));
     for (int number = std::stoi(name.substr(digits));
-         heritage_.HasComponent(name) || tree_.Root().FindComponent(name);)
+         taken.contains(name) || tree_.Root().FindComponent(name);)
         name = base + std::to_string(++number);
     return name;
 }

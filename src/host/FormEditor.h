@@ -32,6 +32,7 @@ public:
     // Throws Error for a form file that cannot be read.
     PlainFormEditor(IOTAModule& module, std::string fileName, std::string_view bytes, unsigned codePage,
                     FormUnit unit, FindAncestorForm findAncestor, std::function<void()> onShow);
+    const FormHeritage& Heritage() const { return heritage_; }
 
     std::string FileName() const override { return fileName_; }
     bool Modified() const override { return modified_; }
@@ -46,11 +47,15 @@ public:
     PlainDesigner& Designer() override { return designer_; }
 
     ComponentTree& Tree() { return tree_; }
+    const ComponentTree& Tree() const { return tree_; }
     // The form file's bytes. Throws Error when a text cannot be expressed.
     std::string Bytes();
     void MarkSaved() { modified_ = false; }
 
     std::function<void()> OnView; // the window's: the form changed
+    // The host's: names of components in forms that this one inherits from or that inherit from it. At run
+    // time all of them are components of one form.
+    std::function<std::vector<std::string>()> InheritedNames;
 
 private:
     std::string FreeName(const std::string& className);

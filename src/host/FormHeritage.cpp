@@ -1,6 +1,5 @@
 #include "host/FormHeritage.h"
 
-#include "platform/Error.h"
 #include "platform/Text.h"
 #include "vcl/ClassCatalogue.h"
 
@@ -35,6 +34,12 @@ void CollectNames(const FormNode& node, std::vector<std::string>& names) {
 
 } // namespace
 
+std::vector<std::string> ComponentNames(const FormNode& root) {
+    std::vector<std::string> names;
+    CollectNames(root, names);
+    return names;
+}
+
 FormHeritage::FormHeritage(const FormUnit& unit, const FormNode& root, FindAncestorForm find) {
     const ClassCatalogue& catalogue = ClassCatalogue::BuiltIn();
     std::string parent = unit.ClassParent(root.className);
@@ -50,21 +55,6 @@ FormHeritage::FormHeritage(const FormUnit& unit, const FormNode& root, FindAnces
         parent = FormUnit::ClassParent(form.isCpp, form.declaration, form.formClass);
     }
     rootBase_ = BaseByLooks(root, parent);
-}
-
-bool FormHeritage::HasComponent(std::string_view name) {
-    if (!names_) {
-        names_.emplace();
-        for (const AncestorForm& form : ancestors_) {
-            try {
-                CollectNames(FormFile::Parse(form.formBytes, form.formFile).Root(), *names_);
-            } catch (const Error&) {
-                // Its own module tells of a damaged form; its names then come from nowhere.
-            }
-        }
-    }
-    return std::any_of(names_->begin(), names_->end(),
-                       [&](const std::string& used) { return SameText(used, name); });
 }
 
 std::string FormHeritage::DeclaringAncestor(const std::string& method) const {

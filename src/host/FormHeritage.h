@@ -17,10 +17,13 @@ struct AncestorForm {
     std::string formClass;
     bool isCpp = false;
     std::string declaration; // the text that declares the class: the unit, or its header
-    std::string formBytes, formFile;
+    std::string formFile;
 };
 // By the form's class; nothing when no form of the project has it.
 using FindAncestorForm = std::function<std::optional<AncestorForm>(const std::string& formClass)>;
+
+// The names of all components of a form, but for those within frames: a frame has its own.
+std::vector<std::string> ComponentNames(const FormNode& root);
 
 class FormHeritage {
 public:
@@ -29,15 +32,13 @@ public:
     // The library class at the form's origin: "TForm", "TDataModule", "TFrame" or another that the catalogue
     // knows. Where the units do not tell, what the form file shows of it.
     const std::string& RootBase() const { return rootBase_; }
-    // True when an ancestor form has a component of that name.
-    bool HasComponent(std::string_view name);
+    const std::vector<AncestorForm>& Ancestors() const { return ancestors_; } // nearest first
     // The class of the nearest ancestor form that declares the method, empty when none does.
     std::string DeclaringAncestor(const std::string& method) const;
 
 private:
-    std::vector<AncestorForm> ancestors_; // nearest first
+    std::vector<AncestorForm> ancestors_;
     std::string rootBase_;
-    std::optional<std::vector<std::string>> names_;
 };
 
 } // namespace glotta

@@ -66,10 +66,12 @@ void PlainModule::OpenForm(std::optional<Encoding> hint) {
             FormUnit(source_.Editor(), Header(), files_.isCpp),
             [this](const std::string& formClass) { return host_.FindAncestor(*this, formClass); },
             [this] { host_.ShowModule(*this); });
+        form_->InheritedNames = [this] { return host_.InheritedNames(*form_); };
         form_->Designer().onRenamed = [this](TComponent& component, const std::string& oldName,
                                              const std::string& newName) {
-            notifiers_.ForEach(
-                [&](IOTAModuleNotifier& notifier) { notifier.ComponentRenamed(&component, oldName, newName); });
+            notifiers_.ForEach([&](IOTAModuleNotifier& notifier) {
+                notifier.ComponentRenamed(&component, oldName, newName);
+            });
         };
         editors_.push_back(form_.get());
     } catch (const Error& error) {

@@ -13,6 +13,8 @@
 
 namespace glotta {
 
+class PlainFormEditor;
+
 class ModuleHost {
 public:
     virtual ~ModuleHost() = default;
@@ -22,6 +24,8 @@ public:
     virtual void ActiveProjectChanged(const std::string& fileName) = 0;
     virtual std::optional<AncestorForm> FindAncestor(const IOTAModule& asking,
                                                      const std::string& formClass) = 0;
+    // Component names of the forms that this one inherits from, and of those that inherit from it.
+    virtual std::vector<std::string> InheritedNames(const PlainFormEditor& form) = 0;
     virtual void AddProblem(std::string problem) = 0;
     // The user's explicit wish.
     virtual std::optional<Encoding> ToldEncoding() const = 0;

@@ -7,6 +7,8 @@
 #include "platform/Text.h"
 #include "runtime/CustomLang.h"
 
+#include <unordered_set>
+
 namespace glotta {
 namespace {
 
@@ -102,18 +104,60 @@ std::optional<AncestorForm> PlainIde::FindAncestor(const IOTAModule& asking, con
     for (PlainProject* project : projects) {
         const IOTAModuleInfo* info = project->FindFormClass(formClass);
         if (!info) continue;
-        const fs::path unit = PathFromText(info->fileName);
-        AncestorForm form{formClass, IsCppSource(unit), {}, {}, info->formFile};
-        const fs::path declaring = form.isCpp ? HeaderOf(unit) : unit;
-        try {
-            form.formBytes = files_.Read(PathFromText(info->formFile));
-            if (!declaring.empty()) form.declaration = TextOf(declaring, project->EncodingHint());
-        } catch (const Error& error) {
-            AddProblem(error.what());
-        }
-        return form;
+        return AncestorForm{formClass, IsCppSource(PathFromText(info->fileName)),
+                            DeclarationOf(*project, *info), info->formFile};
     }
     return std::nullopt;
+}
+
+std::string PlainIde::DeclarationOf(PlainProject& project, const IOTAModuleInfo& form) {
+    const fs::path unit = PathFromText(form.fileName);
+    const fs::path declaring = IsCppSource(unit) ? HeaderOf(unit) : unit;
+    try {
+        if (!declaring.empty()) return TextOf(declaring, project.EncodingHint());
+    } catch (const Error& error) {
+        AddProblem(error.what());
+    }
+    return {};
+}
+
+std::vector<std::string> PlainIde::InheritedNames(const PlainFormEditor& form) {
+    std::vector<std::string> names;
+    const auto add = [&](const std::string& formFile) {
+        std::vector<std::string> more = NamesIn(formFile);
+        std::move(more.begin(), more.end(), std::back_inserter(names));
+    };
+    for (const AncestorForm& ancestor : form.Heritage().Ancestors())
+        add(ancestor.formFile);
+    for (const std::string& descendant : DescendantFiles(form.Tree().Root().ClassName()))
+        add(descendant);
+    return names;
+}
+
+std::vector<std::string> PlainIde::DescendantFiles(const std::string& formClass) {
+    std::vector<std::string> files, classes{formClass};
+    std::unordered_set<std::string> seen; // units may declare classes in a circle
+    for (std::size_t i = 0; i < classes.size(); ++i)
+        for (PlainProject* project : Projects())
+            for (PlainProject::Descendant& form : project->Descendants()) {
+                if (!form.parent)
+                    form.parent = FormUnit::ClassParent(IsCppSource(PathFromText(form.info->fileName)),
+                                                        DeclarationOf(*project, *form.info), form.formClass);
+                if (!SameText(*form.parent, classes[i]) || !seen.insert(form.info->formFile).second) continue;
+                files.push_back(form.info->formFile);
+                classes.push_back(form.formClass);
+            }
+    return files;
+}
+
+std::vector<std::string> PlainIde::NamesIn(const std::string& formFile) {
+    auto* open = dynamic_cast<PlainModule*>(FindModule(formFile));
+    if (open && open->Form()) return ComponentNames(open->Form()->Tree().File().Root());
+    try {
+        return ComponentNames(FormFile::Parse(files_.Read(PathFromText(formFile)), formFile).Root());
+    } catch (const Error&) {
+        return {}; // its own module tells of a damaged form
+    }
 }
 
 // --- modules ---

@@ -91,6 +91,7 @@ private:
         notifications_.Tell(ofnActiveProjectChanged, fileName);
     }
     std::optional<AncestorForm> FindAncestor(const IOTAModule& asking, const std::string& formClass) override;
+    std::vector<std::string> InheritedNames(const PlainFormEditor& form) override;
     void AddProblem(std::string problem) override {
         problems_.push_back(std::move(problem));
         if (onProblem) onProblem(problems_.back());
@@ -103,6 +104,10 @@ private:
     template <class Module> Module& Adopt(std::unique_ptr<Module> module);
     IOTAModule& OpenedProject(IOTAModule& project);
     PlainModule& OpenUnit(const std::filesystem::path& file);
+    // The text that declares the form's class.
+    std::string DeclarationOf(PlainProject& project, const IOTAModuleInfo& form);
+    std::vector<std::string> DescendantFiles(const std::string& formClass);
+    std::vector<std::string> NamesIn(const std::string& formFile);
     std::string TextOf(const std::filesystem::path& file, std::optional<Encoding> hint);
     bool MayClose(const Entry& entry);
     void Forget(IOTAModule& module);

@@ -4,6 +4,8 @@
 #include "platform/Error.h"
 #include "platform/Files.h"
 
+#include <utility>
+
 namespace glotta {
 namespace {
 
@@ -62,13 +64,22 @@ const IOTAModuleInfo* PlainProject::FindEntry(const std::filesystem::path& file)
     return found == byFile_.end() ? nullptr : found->second;
 }
 
+void PlainProject::ReadHeads() {
+    if (std::exchange(readHeads_, true)) return;
+    for (const IOTAModuleInfo& info : modules_)
+        if (const auto head = ReadFormHead(PathFromText(info.formFile))) {
+            byFormClass_.emplace(head->className, &info);
+            if (head->kind == FormNodeKind::Inherited) descendants_.push_back({&info, head->className, {}});
+        }
+}
+
+std::vector<PlainProject::Descendant>& PlainProject::Descendants() {
+    ReadHeads();
+    return descendants_;
+}
+
 const IOTAModuleInfo* PlainProject::FindFormClass(const std::string& formClass) {
-    if (!readHeads_) {
-        readHeads_ = true;
-        for (const IOTAModuleInfo& info : modules_)
-            if (const auto head = ReadFormHead(PathFromText(info.formFile)))
-                byFormClass_.emplace(head->className, &info);
-    }
+    ReadHeads();
     const auto found = byFormClass_.find(formClass);
     return found == byFormClass_.end() ? nullptr : found->second;
 }

@@ -34,17 +34,27 @@ public:
     // The entry whose form has this class, nil when there is none. Reads the heads of the form files at the
     // first call.
     const IOTAModuleInfo* FindFormClass(const std::string& formClass);
+    // The project's forms whose files say that they inherit from another form.
+    struct Descendant {
+        const IOTAModuleInfo* info;
+        std::string formClass;
+        std::optional<std::string> parent; // class, when somebody has looked it up
+    };
+    std::vector<Descendant>& Descendants();
 
     std::vector<FileChange> Changes() override;
     void MarkSaved(const std::vector<FileChange>& changes) override;
     std::vector<std::filesystem::path> Paths() const override;
 
 private:
+    void ReadHeads();
+
     ModuleHost& host_;
     ProjectDescription description_;
     std::vector<IOTAModuleInfo> modules_;
     std::unordered_map<std::string, const IOTAModuleInfo*> byFile_;
     std::unordered_map<std::string, const IOTAModuleInfo*, TextHash, TextEqual> byFormClass_;
+    std::vector<Descendant> descendants_;
     bool readHeads_ = false;
     std::unique_ptr<OpenSource> source_;
 };

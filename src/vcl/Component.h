@@ -79,6 +79,7 @@ public:
                   const ClassCatalogue& catalogue = ClassCatalogue::BuiltIn());
 
     TComponent& Root() { return *root_; }
+    const TComponent& Root() const { return *root_; }
     const ClassCatalogue& Catalogue() const { return catalogue_; }
     const std::string& RootBase() const { return rootBase_; }
     void SetRootBase(std::string rootBase) { rootBase_ = std::move(rootBase); }

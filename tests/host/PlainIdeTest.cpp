@@ -129,11 +129,12 @@ TEST_F(PlainIdeTest, CreatingAComponentAndMethodsInPascal) {
 TEST_F(PlainIdeTest, DescendantsOfProjectForms) {
     PlainIde ide;
     ide.OpenProject(Path("Shop.dpr"));
-    Open(ide, "Main.pas").Form()->CreateComponent("TGlotta");
-    ide.SaveAll();
     PlainFormEditor& child = *Open(ide, "Child.pas").Form();
+    Open(ide, "Main.pas").Form()->CreateComponent("TGlotta");
     EXPECT_TRUE(child.Designer().Root().InheritsFrom("TCustomForm"));
     EXPECT_EQ(child.CreateComponent("TGlotta").Name(), "Glotta2") << "the ancestor has Glotta1";
+    EXPECT_EQ(Open(ide, "Main.pas").Form()->CreateComponent("TGlotta").Name(), "Glotta3")
+        << "so has a descendant Glotta2";
     child.Designer().CreateMethod("FormCreate", Notify);
     EXPECT_NE(Open(ide, "Child.pas")
                   .Source()
