@@ -34,7 +34,7 @@ public:
         if (error)
             throw Error(PathText(folder) + ": " + error.message());
         for (; walk != fs::recursive_directory_iterator(); walk.increment(error)) {
-            std::string extension = LowerExtension(walk->path().native());
+            std::string extension = LowerExtension(PathText(walk->path()));
             if (IsUnitExtension(extension)) {
                 if (walk->is_regular_file(error))
                     units.push_back(walk->path());

@@ -1,7 +1,9 @@
 #include "cli/Commands.h"
 #include "cli/ReplaceCommand.h"
 #include "cli/ScanCommand.h"
+#include "platform/Arguments.h"
 #include "platform/Error.h"
+#include "platform/Terminal.h"
 
 #include <CLI/CLI.hpp>
 
@@ -32,7 +34,7 @@ void AddReplace(CLI::App& app, ReplaceOptions& options) {
     app.add_option("PROJECT", options.project, "The project file")->required();
 }
 
-int Run(int argc, char** argv) {
+int Run(std::vector<std::string> arguments) {
     CLI::App app("Localizes Delphi and C++Builder projects: finds hard-coded strings and turns them into look-up calls.",
                  "glotta");
     app.require_subcommand(1);
@@ -78,7 +80,8 @@ int Run(int argc, char** argv) {
     verifyApp->final_callback([&] { run = [&] { return RunVerify(global, verify); }; });
 
     try {
-        app.parse(argc, argv);
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        app.parse(std::move(arguments));
         return run();
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : 2;
@@ -89,8 +92,9 @@ int Run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    const Utf8Output output;
     try {
-        return Run(argc, argv);
+        return Run(ProgramArguments(argc, argv));
     } catch (const EGlottaSilent&) {
         return 2;
     } catch (const std::exception& error) {

@@ -29,12 +29,6 @@ fs::path OnDisk(std::string_view fileName) {
     return found ? found->lexically_normal() : path;
 }
 
-std::string FileKey(const fs::path& file) {
-    std::error_code failed;
-    const fs::path canonical = fs::weakly_canonical(file, failed);
-    return PathText(failed ? file : canonical);
-}
-
 fs::path Beside(const fs::path& file, std::string_view extension) {
     const auto found =
         PathResolver().Resolve(file.parent_path(), PathText(file.stem()) + std::string(extension));

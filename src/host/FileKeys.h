@@ -1,5 +1,7 @@
 // Which file on disk a name means: letter case and separators need not be the disk's.
 #pragma once
+#include "platform/FileKey.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,8 +10,6 @@ namespace glotta {
 
 // The absolute path of a file; where it is not on disk, as it was named.
 std::filesystem::path OnDisk(std::string_view fileName);
-// One text for all names of a file, links resolved.
-std::string FileKey(const std::filesystem::path& file);
 // A file beside another with another extension (".h"), in any letter case; empty when there is none.
 std::filesystem::path Beside(const std::filesystem::path& file, std::string_view extension);
 

@@ -1,14 +1,14 @@
 #include "platform/Automation.h"
 
 #include "platform/Error.h"
-#include "platform/Files.h"
 
 #ifdef _WIN32
+#include "platform/WindowsText.h"
+
 #include <windows.h>
 
 #include <oaidl.h>
 #include <objbase.h>
-#include <system_error>
 #endif
 
 namespace glotta {
@@ -40,18 +40,18 @@ public:
     std::string ClassIdOf(const std::string& progId) override {
         CLSID id;
         wchar_t text[64] = {};
-        if (FAILED(CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id)) ||
+        if (FAILED(CLSIDFromProgID(WideText(progId).c_str(), &id)) ||
             !StringFromGUID2(id, text, 64))
             return {};
-        return PathText(std::filesystem::path(text));
+        return FromWideText(text);
     }
     std::unique_ptr<AutomationObject> CreateObject(const std::string& progId) override {
         const ComApartment apartment;
         CLSID id;
         void* object = nullptr;
-        HRESULT result = CLSIDFromProgID(PathFromText(progId).wstring().c_str(), &id);
+        HRESULT result = CLSIDFromProgID(WideText(progId).c_str(), &id);
         if (SUCCEEDED(result)) result = CoCreateInstance(id, nullptr, CLSCTX_SERVER, IID_IDispatch, &object);
-        if (FAILED(result)) throw Error(progId + ": " + std::system_category().message(int(result)));
+        if (FAILED(result)) throw Error(progId + ": " + WindowsMessage(static_cast<unsigned long>(result)));
         return std::make_unique<ComObject>(static_cast<IDispatch*>(object));
     }
 };

@@ -65,9 +65,8 @@ public:
         const fs::path beside = BesideName(target_);
         std::error_code failed;
         fs::create_hard_link(target_, beside, failed);
-        if (failed && !fs::copy_file(target_, beside, failed))
-            throw Error(PathText(target_) + ": " + failed.message());
         old_ = beside;
+        if (failed) CopyTargetTo(beside);
     }
 
     void PutInPlace() {
@@ -93,6 +92,14 @@ public:
     }
 
 private:
+    // The library's copy_file may change line ends on Windows.
+    void CopyTargetTo(const fs::path& beside) const {
+        SystemFile copy(beside, SystemFile::Mode::CreateNew);
+        copy.TakePermissionsOf(target_);
+        copy.Write(ReadFile(target_));
+        copy.Flush();
+    }
+
     void Discard() {
         if (!fresh_.empty()) RemoveQuietly(fresh_);
         if (!old_.empty()) RemoveQuietly(old_);

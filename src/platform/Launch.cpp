@@ -8,6 +8,8 @@
 #include <vector>
 
 #ifdef _WIN32
+#include "platform/WindowsText.h"
+
 #include <windows.h>
 
 #include <shellapi.h>
@@ -25,11 +27,11 @@ namespace {
 class ShellLauncher : public Launcher {
 public:
     void Open(const std::string& file, const std::string& parameters) override {
-        const std::wstring name = PathFromText(file).wstring(), line = PathFromText(parameters).wstring();
+        const std::wstring name = WideText(file), line = WideText(parameters);
         const auto result = reinterpret_cast<INT_PTR>(ShellExecuteW(
             nullptr, L"open", name.c_str(), line.empty() ? nullptr : line.c_str(), nullptr, SW_SHOWNORMAL));
         if (result <= 32) // error codes of old
-            throw Error(file + ": " + std::system_category().message(int(GetLastError())));
+            throw Error(file + ": " + WindowsMessage(GetLastError()));
     }
 };
 

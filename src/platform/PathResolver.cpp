@@ -8,17 +8,32 @@ namespace {
 
 // A path as a project file writes it: where it starts, and its parts.
 struct WrittenPath {
-    std::string root; // "", "/", "C:/"; a drive is a root on Windows only
+    std::string root; // "", "/", "C:/", "//server/share/"; the last two are roots on Windows only
     std::vector<std::string> parts;
 };
+
+std::size_t RootLength(std::string_view text) {
+#ifdef _WIN32
+    if (text.starts_with("//")) {
+        const std::size_t share = std::min(text.find('/', 2), text.size());
+        return std::min(text.find('/', share + 1), text.size() - 1) + 1;
+    }
+#endif
+    const std::size_t drive = text.size() > 1 && text[1] == ':' ? 2 : 0;
+    return drive < text.size() && text[drive] == '/' ? drive + 1 : drive;
+}
+
+// Where a written path starts. A root without a drive is the folder's drive.
+fs::path Start(const fs::path& folder, const WrittenPath& path) {
+    if (path.root.empty()) return folder;
+    return path.root == "/" ? folder.root_name().concat(path.root) : PathFromText(path.root);
+}
 
 WrittenPath Parse(std::string_view written) {
     WrittenPath result;
     std::string text(written);
     std::replace(text.begin(), text.end(), '\\', '/');
-    std::size_t pos = 0;
-    if (text.size() > 1 && text[1] == ':') pos = 2;
-    if (pos < text.size() && text[pos] == '/') ++pos;
+    std::size_t pos = RootLength(text);
     result.root = text.substr(0, pos);
     while (pos < text.size()) {
         const std::size_t end = std::min(text.find('/', pos), text.size());
@@ -61,10 +76,10 @@ Listing List(const fs::path& folder) {
 } // namespace
 
 struct PathResolver::Cache {
-    std::unordered_map<std::string, Listing> folders;
+    std::unordered_map<fs::path::string_type, Listing> folders;
 
     const Listing& Folder(const fs::path& folder) {
-        const auto [entry, isNew] = folders.try_emplace(folder.string());
+        const auto [entry, isNew] = folders.try_emplace(folder.native());
         if (isNew) entry->second = List(folder);
         return entry->second;
     }
@@ -75,9 +90,8 @@ PathResolver::~PathResolver() = default;
 
 std::optional<fs::path> PathResolver::Resolve(const fs::path& folder, std::string_view written) {
     const WrittenPath path = Parse(written);
-    const fs::path root = PathFromText(path.root);
-    if (!path.root.empty() && !root.is_absolute()) return {};
-    fs::path result = path.root.empty() ? folder : root;
+    fs::path result = Start(folder, path);
+    if (!path.root.empty() && !result.has_root_directory()) return {};
     bool any = false;
     for (const std::string& part : path.parts) {
         if (part == ".") continue;
@@ -102,7 +116,7 @@ std::optional<fs::path> PathResolver::Resolve(const fs::path& folder, std::strin
 
 fs::path PathResolver::Native(const fs::path& folder, std::string_view written) {
     const WrittenPath path = Parse(written);
-    fs::path result = path.root.empty() ? folder : PathFromText(path.root);
+    fs::path result = Start(folder, path);
     for (const std::string& part : path.parts) {
         if (part == "..")
             result = ParentOf(result);

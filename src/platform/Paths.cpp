@@ -5,7 +5,9 @@
 
 #include <cstdlib>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include "platform/WindowsText.h"
+#else
 #include <pwd.h>
 #include <unistd.h>
 #endif
@@ -25,14 +27,24 @@ std::string WithSlashes(std::string_view text) {
 
 } // namespace
 
+#ifdef _WIN32
+// The library's own conversions throw on names that are no valid text.
 std::string PathText(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
+    return FromWideText(path.native());
 }
 
 std::filesystem::path PathFromText(std::string_view text) {
-    return std::filesystem::path(std::u8string(text.begin(), text.end()));
+    return std::filesystem::path(WideText(text));
 }
+#else
+std::string PathText(const std::filesystem::path& path) {
+    return path.native();
+}
+
+std::filesystem::path PathFromText(std::string_view text) {
+    return std::filesystem::path(text);
+}
+#endif
 
 bool SameFileName(std::string_view a, std::string_view b) {
     return SameText(WithSlashes(a), WithSlashes(b));
@@ -46,7 +58,7 @@ std::string LowerExtension(std::string_view fileName) {
 
 std::optional<std::filesystem::path> PathFromEnvironment(const char* name) {
 #ifdef _WIN32
-    const wchar_t* value = _wgetenv(std::wstring(name, name + std::char_traits<char>::length(name)).c_str());
+    const wchar_t* value = _wgetenv(WideText(name).c_str());
 #else
     const char* value = std::getenv(name);
 #endif

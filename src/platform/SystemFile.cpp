@@ -43,6 +43,9 @@ auto WritePiece(int handle, const char* from, std::size_t count) {
 int FlushToDisk(int handle) {
     return _commit(handle);
 }
+long long SizeOf(int handle) {
+    return _filelengthi64(handle);
+}
 #else
 int Open(const std::filesystem::path& file, SystemFile::Mode mode) {
     const int flags = mode == SystemFile::Mode::Read        ? O_RDONLY
@@ -58,6 +61,10 @@ auto WritePiece(int handle, const char* from, std::size_t count) {
 }
 int FlushToDisk(int handle) {
     return fsync(handle);
+}
+long long SizeOf(int handle) {
+    struct stat status = {};
+    return fstat(handle, &status) == 0 ? status.st_size : -1;
 }
 #endif
 
@@ -77,10 +84,8 @@ int SystemFile::Release() {
 }
 
 std::string SystemFile::ReadAll() {
-    struct stat status = {};
-    if (fstat(handle_, &status) != 0) Fail(file_, errno);
     // One byte more than the size tells the end without another allocation; a pipe tells no size.
-    std::string bytes(static_cast<std::size_t>(std::max<long long>(status.st_size, 0)) + 1, '\0');
+    std::string bytes(static_cast<std::size_t>(std::max(SizeOf(handle_), 0LL)) + 1, '\0');
     std::size_t size = 0;
     for (;;) {
         const auto got = ReadPiece(handle_, bytes.data() + size, bytes.size() - size);

@@ -2,30 +2,25 @@
 #include "platform/WindowsRegistryStore.h"
 
 #include "platform/Error.h"
-#include "platform/Utf16.h"
+#include "platform/WindowsText.h"
 
-#include <system_error>
 #include <windows.h>
 
 namespace glotta {
 namespace {
 
-std::wstring Wide(std::string_view text) {
-    return PathFromText(text).wstring();
-}
-std::string Narrow(std::wstring_view text) {
-    return PathText(std::filesystem::path(text));
-}
-
 std::wstring SubKey(std::string_view key) {
     while (key.starts_with('\\'))
         key.remove_prefix(1);
-    return Wide(key);
+    while (key.ends_with('\\'))
+        key.remove_suffix(1);
+    return WideText(key);
 }
 
 void Check(LSTATUS status, std::string_view key) {
     if (status != ERROR_SUCCESS)
-        throw Error("Registry key " + std::string(key) + ": " + std::system_category().message(int(status)));
+        throw Error("Registry key " + std::string(key) + ": " +
+                    WindowsMessage(static_cast<unsigned long>(status)));
 }
 
 // An open key; empty when it does not exist and is not to be created.
@@ -58,26 +53,27 @@ private:
 std::optional<std::string> WindowsRegistryStore::ReadString(std::string_view key, std::string_view name) {
     const OpenKey open(key, KEY_QUERY_VALUE, false);
     if (!open) return {};
-    const std::wstring value = Wide(name);
+    const std::wstring value = WideText(name);
     std::vector<unsigned char> data;
     for (;;) {
         DWORD type = 0, size = DWORD(data.size());
         const LSTATUS status = RegQueryValueExW(open, value.c_str(), nullptr, &type, data.data(), &size);
-        if (status == ERROR_FILE_NOT_FOUND || (type != REG_SZ && type != REG_EXPAND_SZ)) return {};
+        if (status == ERROR_FILE_NOT_FOUND) return {};
+        if (status != ERROR_MORE_DATA) Check(status, key);
+        if (type != REG_SZ && type != REG_EXPAND_SZ) return {};
         if (status == ERROR_SUCCESS && size <= data.size()) {
             std::wstring text(reinterpret_cast<const wchar_t*>(data.data()), size / sizeof(wchar_t));
             if (text.ends_with(L'\0')) text.pop_back();
-            return Narrow(text);
+            return FromWideText(text);
         }
-        if (status != ERROR_MORE_DATA) Check(status, key);
         data.resize(std::max<std::size_t>(size, 2)); // it may grow between two calls
     }
 }
 
 void WindowsRegistryStore::WriteString(std::string_view key, std::string_view name, std::string_view value) {
     const OpenKey open(key, KEY_SET_VALUE, true);
-    const std::wstring text = Wide(value);
-    Check(RegSetValueExW(open, Wide(name).c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
+    const std::wstring text = WideText(value);
+    Check(RegSetValueExW(open, WideText(name).c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
                          DWORD((text.size() + 1) * sizeof(wchar_t))),
           key);
 }
@@ -85,7 +81,7 @@ void WindowsRegistryStore::WriteString(std::string_view key, std::string_view na
 void WindowsRegistryStore::DeleteValue(std::string_view key, std::string_view name) {
     const OpenKey open(key, KEY_SET_VALUE, false);
     if (!open) return;
-    if (const LSTATUS status = RegDeleteValueW(open, Wide(name).c_str()); status != ERROR_FILE_NOT_FOUND)
+    if (const LSTATUS status = RegDeleteValueW(open, WideText(name).c_str()); status != ERROR_FILE_NOT_FOUND)
         Check(status, key);
 }
 
@@ -106,7 +102,7 @@ std::vector<std::string> WindowsRegistryStore::ValueNames(std::string_view key) 
             RegEnumValueW(open, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr);
         if (status == ERROR_NO_MORE_ITEMS) break;
         Check(status, key);
-        names.push_back(Narrow({name.data(), length}));
+        names.push_back(FromWideText({name.data(), length}));
     }
     return names;
 }

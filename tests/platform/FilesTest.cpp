@@ -89,6 +89,8 @@ TEST_F(Files, WrittenPathsResolveInAnyCase) {
     EXPECT_EQ(resolver.Resolve("/", (dir / "UNITS").string())->filename(), "Units");
     EXPECT_EQ(PathResolver::Native("a/b", "..\\New\\..\\..\\C.pas"), fs::path("C.pas"));
     EXPECT_EQ(PathResolver::Native("", "..\\C.pas"), fs::path("../C.pas"));
+    EXPECT_EQ(PathResolver::Native("a", "\\New\\C.pas"), fs::path("/New/C.pas"));
+    EXPECT_EQ(PathResolver::Native("a", "C:\\New\\..\\C.pas"), fs::path("C:/C.pas"));
 }
 
 TEST_F(Files, OneHolderOfALockAtATime) {
