@@ -1,0 +1,97 @@
+// Questions on the screen: their kinds, captions and buttons, and what each way out means.
+#include "workbench/FileFilters.h"
+#include "workbench/QtUi.h"
+
+#include <QtCore/QTimer>
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
+#include <gtest/gtest.h>
+
+namespace glotta {
+namespace {
+
+// Shows a message, tells what is seen and presses the button, or Escape.
+std::string Ask(MsgType type, const MsgButtons& buttons, const char* press, const std::string& caption = {}) {
+    QtUi ui;
+    std::string seen;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        seen = box->windowTitle().toStdString() + "|" + std::to_string(int(box->icon())) + "|" +
+               box->text().toStdString() + "|";
+        QAbstractButton* wanted = nullptr;
+        for (QAbstractButton* button : box->buttons()) {
+            seen += button->text().remove('&').toStdString() + " ";
+            if (button->text().remove('&') == press)
+                wanted = button;
+        }
+        if (wanted)
+            wanted->click();
+        else
+            QTest::keyClick(box, Qt::Key_Escape);
+    });
+    return std::to_string(int(ui.MessageDlg("<b>Go on?", type, buttons, caption))) + " " + seen;
+}
+
+TEST(QtUi, Messages) {
+    using enum ModalResult;
+    EXPECT_EQ(Ask(MsgType::Information, {OK}, "OK"), "1 Information|1|<b>Go on?|OK ");
+    EXPECT_EQ(Ask(MsgType::Error, {OK}, "Escape"), "1 Error|3|<b>Go on?|OK ");
+    EXPECT_EQ(Ask(MsgType::Confirmation, {Yes, No}, "Yes"), "6 Confirm|4|<b>Go on?|Yes No ");
+    EXPECT_EQ(Ask(MsgType::Warning, {Yes, No}, "Escape"), "7 Warning|2|<b>Go on?|Yes No ");
+    EXPECT_EQ(Ask(MsgType::Warning, {Yes, No, Cancel}, "Escape").substr(0, 2), "2 ");
+    EXPECT_EQ(Ask(MsgType::Confirmation, {Yes, YesToAll, No, Cancel}, "Yes to All").substr(0, 3), "14 ");
+    EXPECT_EQ(Ask(MsgType::Plain, {OK}, "OK", "TGlotta Expert (VCL Edition)"),
+              "1 TGlotta Expert (VCL Edition)|0|<b>Go on?|OK ");
+}
+
+TEST(QtUi, InputBoxGivesNothingWhenCancelled) {
+    QtUi ui;
+    for (const bool ok : {true, false}) {
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->textValue(), "10");
+            QTest::keyClicks(box->findChild<QLineEdit*>(), "Ä");
+            QTest::keyClick(box, ok ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        EXPECT_EQ(ui.InputBox("TGlotta Expert", "Start:", "10"), ok ? std::optional<std::string>("Ä") : std::nullopt);
+    }
+}
+
+TEST(QtUi, FileFilters) {
+    EXPECT_EQ(NameFilters("Text (*.txt)|*.txt|Pictures|*.png;*.jpg|All (files) (*.*)|*.*").join("; ").toStdString(),
+              "Text (*.txt); Pictures (*.png *.jpg); All (files) (*)");
+    EXPECT_TRUE(NameFilters("").isEmpty());
+}
+
+TEST(QtUi, ProgressIsShownUntilItIsClosedAndMakesWayForQuestions) {
+    QtUi ui;
+    const auto visible = [] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->windowFlags().testFlag(Qt::SplashScreen) && window->isVisible())
+                return window->findChild<QLabel*>()->text().toStdString();
+        return std::string();
+    };
+    {
+        Progress progress(ui, "Scanning...");
+        EXPECT_EQ(visible(), "Scanning...");
+        progress.Text("Applying...");
+        EXPECT_EQ(visible(), "Applying...");
+        QTimer::singleShot(0, [&] {
+            EXPECT_EQ(visible(), "");
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        });
+        ui.MessageDlg("?", MsgType::Plain, {ModalResult::OK}, {});
+        EXPECT_EQ(visible(), "Applying...");
+    }
+    EXPECT_EQ(visible(), "");
+}
+
+} // namespace
+} // namespace glotta
