@@ -71,8 +71,8 @@ void FormUnit::AddComponent(const std::string& formClass, const std::string& nam
 
 void FormUnit::RenameField(const std::string& formClass, const std::string& name,
                            const std::string& newName) {
-    if (isCpp_) throw Error(source_.FileName() + ": a component of a C++ form cannot be renamed here");
-    source_.Apply({pascal::RemoveOrRenameField(source_.Buffer().Text(), formClass, name, newName)});
+    DeclaringEditor().Apply({isCpp_ ? cpp::RenameMember(Declaration(), formClass, name, newName)
+                                    : pascal::RemoveOrRenameField(Declaration(), formClass, name, newName)});
 }
 
 std::string FormUnit::FindMethod(const std::string& formClass, const std::string& name) const {

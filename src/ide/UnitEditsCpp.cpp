@@ -153,6 +153,15 @@ TextEdits AddMember(std::string_view header, std::string_view className, std::st
                    std::string(type) + " *" + std::string(name) + ";");
 }
 
+TextEdits RenameMember(std::string_view header, std::string_view className, std::string_view name,
+                       std::string_view newName) {
+    const CppStructure unit(header);
+    for (const Member& member : unit.Members(ClassOf(unit, className)))
+        if (!member.method && unit.Tokens()[member.name] == name)
+            return {{unit.Tokens().Begin(member.name), unit.Tokens().End(member.name), std::string(newName)}};
+    return {};
+}
+
 TextEdits AddMethodDeclaration(std::string_view header, std::string_view className, std::string_view name,
                                std::string_view parameters) {
     const CppStructure unit(header);

@@ -42,6 +42,7 @@ void CodeEditor::Setup() {
     SendScintilla(SCI_SETMODEVENTMASK, SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT | SC_PERFORMED_USER);
     SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);
     SendScintilla(SCI_SETSCROLLWIDTH, 100UL);
+    SendScintilla(SCI_SETMARGINLEFT, 0UL, 4L);
     setTabWidth(2);
     setIndentationsUseTabs(false);
     setAutoIndent(true);

@@ -146,15 +146,15 @@ void DrawRadioButton(QPainter& painter, const QRect& rect, const TComponent& com
 }
 
 void DrawGroupBox(QPainter& painter, const QRect& rect, const TComponent& component) {
+    const QString caption = CaptionOf(component);
+    const QRect title(rect.left() + 8, rect.top(), painter.fontMetrics().horizontalAdvance(caption) + 4, 14);
+    painter.save();
     painter.setPen(QColor("#c4c4c4"));
     painter.setBrush(Qt::NoBrush);
+    if (!caption.isEmpty()) painter.setClipRegion(painter.clipRegion().subtracted(title));
     painter.drawRect(rect.adjusted(0, 7, -1, -1));
-    const QString caption = CaptionOf(component);
-    if (!caption.isEmpty()) {
-        const QRect title(rect.left() + 8, rect.top(), painter.fontMetrics().horizontalAdvance(caption) + 4, 14);
-        painter.fillRect(title, QColor(FormFace));
-        Text(painter, title.translated(2, 0), caption);
-    }
+    painter.restore();
+    Text(painter, title.adjusted(2, 0, 2, 0), caption);
     const QStringList items = component.InheritsFrom("TCustomRadioGroup") ? StringsProperty(component, "Items") : QStringList();
     for (qsizetype i = 0; i < items.size(); ++i) {
         const int step = (rect.height() - 20) / int(items.size());
@@ -178,7 +178,8 @@ void DrawPanel(QPainter& painter, const QRect& rect, const TComponent& component
 
 void DrawMemo(QPainter& painter, const QRect& rect, const TComponent& component) {
     Box(painter, rect, Paper);
-    Lines(painter, rect.adjusted(Pad, 2, -Pad, -2), StringsProperty(component, "Lines"));
+    Text(painter, rect.adjusted(Pad, 2, -Pad, -2), StringsProperty(component, "Lines").join('\n'),
+         Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap);
 }
 
 void DrawListBox(QPainter& painter, const QRect& rect, const TComponent& component) {
@@ -280,6 +281,16 @@ void DrawFrameLine(QPainter& painter, const QRect& rect, const TComponent&) {
     painter.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
+void DrawUpDown(QPainter& painter, const QRect& rect, const TComponent&) {
+    Box(painter, rect, Button);
+    const int x = rect.center().x(), y = rect.center().y();
+    painter.drawLine(rect.left(), y, rect.right() - 1, y);
+    painter.setBrush(Dim);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(QPolygon({QPoint(x - 3, y - 3), QPoint(x + 3, y - 3), QPoint(x, y - 6)}));
+    painter.drawPolygon(QPolygon({QPoint(x - 3, y + 4), QPoint(x + 3, y + 4), QPoint(x, y + 7)}));
+}
+
 void DrawProgress(QPainter& painter, const QRect& rect, const TComponent&) {
     Box(painter, rect, QColor("#e6e6e6"));
     painter.fillRect(rect.adjusted(1, 1, -rect.width() * 2 / 3, -1), QColor("#86b98a"));
@@ -315,7 +326,7 @@ constexpr LookOf ByAncestor[] = {
     {"TCustomStatusBar", DrawStatusBar},   {"TStatusBar", DrawStatusBar},    {"TToolBar", DrawBar},
     {"TCoolBar", DrawBar},                 {"TControlBar", DrawBar},         {"TImage", DrawImage},
     {"TPaintBox", DrawImage},              {"TBevel", DrawFrameLine},        {"TShape", DrawFrameLine},
-    {"TSplitter", DrawBar},                {"TProgressBar", DrawProgress},   {"TTrackBar", DrawFrameLine},
+    {"TSplitter", DrawBar},                {"TCustomUpDown", DrawUpDown},                {"TProgressBar", DrawProgress},   {"TTrackBar", DrawFrameLine},
     {"TScrollBar", DrawBar},               {"TCustomPanel", DrawPanel},      {"TScrollBox", DrawFrameLine},
     {"TCustomFrame", DrawPanel}};
 

@@ -14,15 +14,15 @@ struct RoleColor {
     const char* dark;
 };
 constexpr RoleColor Colors[] = {
-    {QPalette::Window, "#f3f4f6", "#23272e"},        {QPalette::WindowText, "#1f2328", "#d8dee9"},
-    {QPalette::Base, "#ffffff", "#1b1f24"},          {QPalette::AlternateBase, "#f6f8fa", "#20252b"},
+    {QPalette::Window, "#f3f4f6", "#323840"},        {QPalette::WindowText, "#1f2328", "#d8dee9"},
+    {QPalette::Base, "#ffffff", "#1b1f24"},          {QPalette::AlternateBase, "#f6f8fa", "#22272d"},
     {QPalette::ToolTipBase, "#ffffe6", "#2d333b"},   {QPalette::ToolTipText, "#1f2328", "#d8dee9"},
-    {QPalette::Text, "#1f2328", "#d8dee9"},          {QPalette::Button, "#eceef1", "#2d333b"},
+    {QPalette::Text, "#1f2328", "#d8dee9"},          {QPalette::Button, "#eceef1", "#444c56"},
     {QPalette::ButtonText, "#1f2328", "#d8dee9"},    {QPalette::BrightText, "#ffffff", "#ffffff"},
     {QPalette::Highlight, "#2f6fb2", "#3d6ea5"},     {QPalette::HighlightedText, "#ffffff", "#ffffff"},
     {QPalette::Link, "#0b5fb0", "#7fb4f0"},          {QPalette::LinkVisited, "#6b4a9e", "#b59ae0"},
-    {QPalette::PlaceholderText, "#8a929b", "#7d8590"}, {QPalette::Light, "#ffffff", "#3a414a"},
-    {QPalette::Midlight, "#f8f9fa", "#333a42"},      {QPalette::Mid, "#c3c8ce", "#1a1d21"},
+    {QPalette::PlaceholderText, "#8a929b", "#7d8590"}, {QPalette::Light, "#ffffff", "#545d68"},
+    {QPalette::Midlight, "#f8f9fa", "#4a525c"},      {QPalette::Mid, "#c3c8ce", "#2a2f36"},
     {QPalette::Dark, "#9aa1a9", "#14171a"},          {QPalette::Shadow, "#6b7178", "#0c0e10"}};
 constexpr QPalette::ColorRole Dimmed[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                                           QPalette::HighlightedText};

@@ -226,6 +226,18 @@ TEST(HostWindow, InspectorRenamesComponentAndField) {
     EXPECT_NE(desk.OnDisk("CustomerEdit.pas").find("procedure TCustomerForm.TitleClick(Sender: TObject);"), std::string::npos);
 }
 
+TEST(HostWindow, InspectorRenamesTheMemberOfAHeader) {
+    Desk desk("cbuilder/AlarmClock", "AlarmClock.bpr");
+    FormPage& form = *desk.Open("ClockMain.cpp", true).Form();
+    auto& module = static_cast<PlainModule&>(desk.window.Page()->Module());
+    form.Select(module.Form()->Tree().Root().FindComponent("SetButton"));
+    form.Properties().item(0, 1)->setText("ChangeButton");
+    desk.Click("FileSaveAllItem");
+    EXPECT_NE(desk.OnDisk("ClockMain.h").find("TButton *ChangeButton;"), std::string::npos);
+    EXPECT_NE(desk.OnDisk("ClockMain.dfm").find("object ChangeButton: TButton"), std::string::npos);
+    EXPECT_EQ(desk.asked, "");
+}
+
 TEST(HostWindow, FilesChangedByOthersLoseNoEdit) {
     Desk desk;
     const auto change = [&](const char* file, const std::string& bytes) {
@@ -300,7 +312,9 @@ void OpenEveryForm(Desk& desk) {
         desk.Idle();
         page->ShowForm();
         desk.Idle();
-        page->grab();
+        const QString folder = qEnvironmentVariable("GLOTTA_FORM_PICTURES");
+        const QPixmap picture = page->grab();
+        if (!folder.isEmpty()) picture.save(folder + "/" + Q(module->Name()) + ".png");
         EXPECT_FALSE(module->Modified()) << module->FileName();
     }
 }
@@ -330,7 +344,7 @@ TEST(HostWindow, ProjectOfManyForms) {
     EXPECT_EQ(S(desk.window.Page()->Title()), "Unit299.pas");
 }
 
-// GLOTTA_PROJECTS: further projects, one path per line.
+// GLOTTA_PROJECTS: further projects, one path per line; their forms leave pictures in GLOTTA_FORM_PICTURES.
 TEST(HostWindow, EveryFormOfTheNamedProjects) {
     for (const QString& file : qEnvironmentVariable("GLOTTA_PROJECTS").split('\n', Qt::SkipEmptyParts)) {
         Desk desk("delphi/OrderDesk", nullptr);
