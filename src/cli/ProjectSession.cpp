@@ -5,6 +5,7 @@
 #include "storage/Projectsettings.h"
 
 #include <iostream>
+#include <unordered_set>
 #include <utility>
 
 namespace glotta {
@@ -43,9 +44,11 @@ std::optional<Encoding> ProjectSession::EncodingHint() {
 }
 
 void ProjectSession::PrintProblems() {
+    std::unordered_set<std::string_view> printed; // a damaged form is met by the list and by the module
     for (const std::vector<std::string>* problems : {&std::as_const(problems_), &ide_.Problems()})
         for (const std::string& problem : *problems)
-            std::cerr << problem << "\n";
+            if (printed.insert(problem).second)
+                std::cerr << problem << "\n";
 }
 
 } // namespace glotta

@@ -151,6 +151,8 @@ private:
     }
 
     void PrintChanges(const std::vector<FileChange>& changes) {
+        if (changes.empty())
+            return;
         std::cout << "\n";
         for (const FileChange& change : changes)
             std::cout << ChangeText(change, project_.Shown(PathText(change.file)), project_.EncodingHint());

@@ -1,0 +1,3 @@
+object BomForm: TBomForm
+  Caption = 'BomForm'
+end

@@ -1,0 +1,3 @@
+object CzechForm: TCzechForm
+  Caption = 'CzechForm'
+end

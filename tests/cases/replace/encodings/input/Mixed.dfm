@@ -1,0 +1,3 @@
+object MixedForm: TMixedForm
+  Caption = 'MixedForm'
+end

@@ -1,0 +1,3 @@
+object WideForm: TWideForm
+  Caption = 'WideForm'
+end

@@ -1,0 +1,3 @@
+object BrokenForm: TBrokenForm
+  Caption = 'never closed
+  object

@@ -1,0 +1,3 @@
+object ShownForm: TShownForm
+  Caption = 'ShownForm'
+end

@@ -1,0 +1,3 @@
+object HardForm: THardForm
+  Caption = 'HardForm'
+end

@@ -1,0 +1,8 @@
+program Hostile;
+uses
+  Forms,
+  Hard in 'Hard.pas' {HardForm};
+{$R *.res}
+begin
+  Application.Run;
+end.
