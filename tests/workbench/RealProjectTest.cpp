@@ -11,8 +11,7 @@ TEST(RealProject, EveryFormInEveryWindow) {
     const std::string project = qEnvironmentVariable("GLOTTA_PROJECT").toStdString();
     if (project.empty())
         GTEST_SKIP() << "GLOTTA_PROJECT names no project";
-    ExpertDesk desk;
-    desk.ide.OpenProject(project);
+    ExpertDesk desk("delphi/OrderDesk", project.c_str());
     const auto start = std::chrono::steady_clock::now();
     QWidget& main = desk.OpenMainWindow();
     const auto opened = std::chrono::steady_clock::now();
