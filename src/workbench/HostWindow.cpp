@@ -131,7 +131,11 @@ void HostWindow::BuildMenu() {
         TMenuItem& item = section.Add(std::string(command.caption), std::string(command.name));
         item.SetShortCut(std::string(command.shortcut));
         item.SetHint(std::string(command.hint));
-        if (command.run) item.OnClick = [this, run = command.run] { Run([&] { (this->*run)(); }); };
+        if (command.run)
+            item.OnClick = [this, &command] {
+                // What enables it may have changed since the menu was shown.
+                if (!command.enabled || (this->*command.enabled)()) Run([&] { (this->*command.run)(); });
+            };
         section.OnClick = [this] { ShowChanged(); };
     }
     TMenuItem& colors = *items.FindDeep("ViewThemeItem");
@@ -140,6 +144,10 @@ void HostWindow::BuildMenu() {
             workbench_.Settings().WriteString({}, "Colors", theme);
             ApplyTheme(theme);
         }).SetRadioItem(true);
+    for (const char* name : {"EditCutItem", "EditCopyItem", "EditPasteItem", "EditSelectAll", "EditCommentItem"}) {
+        TMenuItem& command = *items.FindDeep(name);
+        editWindow_.EditorLocalMenu.Items.Add(command.Caption(), {}, [&command] { command.Click(); });
+    }
     FillSubmenus();
     menu_ = std::make_unique<MenuAdapter>(*menuBar(), ide_.Menus().MainMenu());
 }

@@ -4,11 +4,14 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 
 namespace glotta {
 namespace {
+
+constexpr int WhileOpen = 100; // milliseconds
 
 bool IsBelow(const TMenuItem& parent, const TMenuItem* item) {
     bool found = false;
@@ -25,7 +28,8 @@ void Describe(QAction& action, const TMenuItem& item) {
     const std::size_t bar = item.Hint().find('|');
     action.setStatusTip(bar == std::string::npos ? hint : Q(item.Hint().substr(bar + 1)));
     action.setEnabled(item.Enabled());
-    action.setVisible(item.Visible());
+    const bool offersNothing = action.menu() && item.Count() == 0 && item.Enabled();
+    action.setVisible(item.Visible() && !offersNothing);
     action.setCheckable(item.Checked() || item.RadioItem());
     action.setChecked(item.Checked());
 }
@@ -60,17 +64,38 @@ MenuAdapter::MenuAdapter(QWidget& bar, TMenu& menu) : bar_(bar), menu_(menu) {
     menu_.OnView = [this] {
         if (stale_) return;
         stale_ = true;
-        QTimer::singleShot(0, this, [this] { Refresh(); });
+        RefreshSoon();
     };
-    Refresh();
+    Rebuild();
 }
 
 MenuAdapter::~MenuAdapter() {
     menu_.OnView = nullptr;
 }
 
+void MenuAdapter::RefreshSoon() {
+    QTimer::singleShot(0, this, [this] {
+        // A menu that somebody has open is not taken away.
+        if (stale_ && QApplication::activePopupWidget() && ShapeOf() != shape_)
+            return QTimer::singleShot(WhileOpen, this, [this] { RefreshSoon(); });
+        Refresh();
+    });
+}
+
 void MenuAdapter::Refresh() {
-    if (stale_) Rebuild();
+    if (!stale_) return;
+    if (ShapeOf() != shape_) return Rebuild();
+    for (const auto& [item, kind] : shape_)
+        if (QAction* action = ActionOf(*item); action && !item->IsSeparator()) Describe(*action, *item);
+    stale_ = false;
+}
+
+MenuAdapter::Shape MenuAdapter::ShapeOf() const {
+    Shape shape;
+    menu_.Items.ForEach([&](TMenuItem& item) {
+        shape.emplace_back(&item, item.IsSeparator() ? 2 : item.Count() > 0 ? 1 : 0);
+    });
+    return shape;
 }
 
 QAction* MenuAdapter::ActionOf(const TMenuItem& item) const {
@@ -90,6 +115,7 @@ void MenuAdapter::Rebuild() {
     }
     for (std::size_t i = 0; i < menu_.Items.Count(); ++i)
         bar_.addAction(MakeAction(menu_.Items[i], bar_));
+    shape_ = ShapeOf();
     stale_ = false;
 }
 
@@ -114,11 +140,13 @@ QAction* MenuAdapter::MakeAction(TMenuItem& item, QWidget& owner) {
         action = below->menuAction();
         Describe(*action, item);
         FillMenu(*below, item);
-        if (item.Count() == 0 && item.Enabled()) action->setVisible(false); // a menu that offers nothing
         connect(below, &QMenu::aboutToShow, this, [this, below, opened = &item] {
             if (!IsThere(opened)) return;
             opened->Click();
-            if (stale_ && IsThere(opened)) FillMenu(*below, *opened);
+            if (stale_ && ShapeOf() == shape_)
+                Refresh();
+            else if (stale_ && IsThere(opened))
+                FillMenu(*below, *opened);
         });
     } else {
         action = new QAction(&owner);

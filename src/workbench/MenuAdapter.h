@@ -6,6 +6,8 @@
 #include <QtCore/QPoint>
 
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 class QAction;
 class QMenu;
@@ -26,6 +28,10 @@ public:
     QAction* ActionOf(const TMenuItem& item) const;
 
 private:
+    // The items in order, with what each one needs an action of another kind for.
+    using Shape = std::vector<std::pair<const TMenuItem*, int>>;
+    Shape ShapeOf() const;
+    void RefreshSoon();
     void Rebuild();
     void FillMenu(QMenu& menu, TMenuItem& parent);
     QAction* MakeAction(TMenuItem& item, QWidget& owner);
@@ -35,6 +41,7 @@ private:
     QWidget& bar_;
     TMenu& menu_;
     bool stale_ = true;
+    Shape shape_;
     std::unordered_map<const TMenuItem*, QAction*> actions_;
 };
 
