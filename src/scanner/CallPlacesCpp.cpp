@@ -3,6 +3,7 @@
 
 #include "ide/CppLexer.h"
 #include "scanner/PCharArguments.h"
+#include "scanner/TextMacro.h"
 #include "scanner/WordTable.h"
 
 namespace glotta::places {
@@ -25,7 +26,9 @@ enum class Word : std::uint8_t {
     SizeOf,
     Constant,
     Attribute,
-    Connective // "and", "or"
+    Connective, // "and", "or"
+    Char,
+    CharPointer // a type that is one by itself
 };
 
 constexpr std::pair<std::string_view, Word> words[] = {
@@ -80,6 +83,25 @@ constexpr std::pair<std::string_view, Word> words[] = {
     {"__attribute__", Word::Attribute},
     {"__attribute", Word::Attribute},
     {"alignas", Word::Attribute},
+    {"char", Word::Char},
+    {"wchar_t", Word::Char},
+    {"char16_t", Word::Char},
+    {"CHAR", Word::Char},
+    {"WCHAR", Word::Char},
+    {"TCHAR", Word::Char},
+    {"_TCHAR", Word::Char},
+    {"Char", Word::Char},
+    {"WideChar", Word::Char},
+    {"AnsiChar", Word::Char},
+    {"LPSTR", Word::CharPointer},
+    {"LPCSTR", Word::CharPointer},
+    {"LPTSTR", Word::CharPointer},
+    {"LPCTSTR", Word::CharPointer},
+    {"LPWSTR", Word::CharPointer},
+    {"LPCWSTR", Word::CharPointer},
+    {"PChar", Word::CharPointer},
+    {"PAnsiChar", Word::CharPointer},
+    {"PWideChar", Word::CharPointer},
     {"and", Word::Connective},
     {"or", Word::Connective},
     {"not", Word::Connective},
@@ -103,7 +125,9 @@ enum Seen : std::uint16_t {
     ArrayDeclared = 1024, // "char x[] ="
     CaseWord = 2048,
     AssemblerWord = 4096,
-    NotADeclaration = 8192
+    NotADeclaration = 8192,
+    CharWord = 16384,
+    PointerDeclared = 32768 // "char* x" or "LPCSTR x"
 };
 
 // What stands before a token: a symbol's first character, or one of these.
@@ -142,11 +166,12 @@ private:
     void Take(const Token& token) {
         switch (token.kind) {
         case TokenKind::Identifier: {
-            const Word word = wordTable.Find(TextOf(token));
+            lastWord_ = TextOf(token);
+            const Word word = wordTable.Find(lastWord_);
             TakeWord(word);
             s_.word = word;
             s_.before = AWord;
-            arguments_.TakeWord(TextOf(token));
+            arguments_.TakeWord(lastWord_);
             return;
         }
         case TokenKind::Symbol:
@@ -198,8 +223,11 @@ private:
         return Has(StaticWord)      ? Reason::StaticInitialiser
                : Has(ArrayDeclared) ? Reason::ArrayInitialiser
                : Has(CaseWord)      ? Reason::CaseLabel
+               : PointsToChar()     ? Reason::CharPointer
                                     : Reason::None;
     }
+
+    bool PointsToChar() const { return Has(PointerDeclared) && Has(Equals); }
 
     void Push(Frame frame, Reason base, bool inFunction) {
         State inner;
@@ -255,6 +283,11 @@ private:
         case Word::Assembler:
             s_.seen |= AssemblerWord;
             return;
+        case Word::Char:
+        case Word::CharPointer:
+            if (!Has(NotADeclaration)) s_.seen |= word == Word::Char ? CharWord : PointerDeclared;
+            if (!Has(NotADeclaration) && s_.names < 2) ++s_.names;
+            return;
         case Word::Control:
             s_.names = 0;
             return;
@@ -301,6 +334,8 @@ private:
             if (length <= 2) TakeAngle(symbol, length, text_[token.end - 1] != symbol);
             break;
         case '*':
+            if (Has(CharWord) && !Has(NotADeclaration)) s_.seen |= PointerDeclared;
+            break;
         case '&':
         case ',':
             break;
@@ -349,7 +384,10 @@ private:
         const bool ofWord = word && (s_.word == Word::SizeOf || s_.word == Word::Constant ||
                                      s_.word == Word::Attribute || s_.word == Word::Assembler);
         const bool attribute = symbol == '[' && s_.before == '[' && s_.mayBeAttribute;
+        const bool call = !IsTextMacro(lastWord_) && word && PointsToChar() && s_.frame == Frame::Block &&
+                          Effective() == Reason::CharPointer;
         const Reason base = attribute                    ? Reason::Attribute
+                            : call                       ? Reason::None
                             : !ofWord                    ? Effective()
                             : s_.word == Word::SizeOf    ? Reason::SizeOf
                             : s_.word == Word::Attribute ? Reason::Attribute
@@ -431,6 +469,7 @@ private:
     Nesting<State> nesting_;
     PCharArguments arguments_{true};
     bool behindAngle_ = false; // the last literal
+    std::string_view lastWord_;
 };
 
 } // namespace

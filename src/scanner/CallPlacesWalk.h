@@ -37,6 +37,7 @@ enum class Reason : std::uint8_t {
     StaticInitialiser,
     ArrayInitialiser,
     Adjacent,
+    CharPointer,
     SizeOf,
     ConstantExpression,
     TemplateArgument,

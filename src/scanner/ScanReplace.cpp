@@ -34,6 +34,7 @@ struct ScanReplace::Job {
     const SourceFlavour* flavour = nullptr;
     IOTASourceEditor* editor = nullptr;
     std::string text;
+    std::vector<const TgxFoundSourceString*> refused; // by the proof
     std::unique_ptr<CallPlaces> places;
     std::unique_ptr<ConstRewrite> constants;
 
@@ -70,6 +71,17 @@ void Prove(const std::string& fileName, const EditVerdicts& verdicts) {
             if (!reason.empty())
                 throw Error(fileName + ": the rewritten unit would not be sound (" + reason +
                             "); nothing was changed");
+}
+
+// The row's replacement is the look-up call, by whatever method.
+bool IsAsBuilt(TgxFoundSourceString row, const ReplacementContext& context) {
+    const std::string replacement = row.Replacement;
+    SettingsValues settings = context.settings;
+    return std::any_of(TextGetterNames.begin(), TextGetterNames.end(), [&](std::string_view method) {
+        settings.ReplaceMethod = method;
+        RebuildReplacement(row, context.component, context.flavour, settings);
+        return row.Replacement == replacement;
+    });
 }
 
 const IOTAModuleInfo* FindUnit(const IOTAProject& project, const std::string& name) {
@@ -218,19 +230,14 @@ bool ScanReplace::FindsConstants(const std::string& unitName) {
     return false;
 }
 
-// What the developer kept in the review and the proof refused. Constants that are left alone say so in the
-// review.
+// What the developer kept in the review and the proof refused. All other notes were shown there.
 void ScanReplace::TellLeftAlone(const Job& job) {
-    if (review_ == Review::None || job.constMode) return;
+    if (review_ == Review::None || job.refused.empty()) return;
     std::string rows;
-    const TgxFoundSourceStrings& found = context_.results.found;
-    for (std::size_t i = 0; i < found.Count(); ++i)
-        if (!found[i].Deleted && !found[i].Note.empty())
-            rows +=
-                "\r\nLine " + std::to_string(found[i].Line + 1) + ", " + found[i].ID + ": " + found[i].Note;
-    if (!rows.empty())
-        context_.ide.GetUi().MessageDlg("Left alone, because the unit would not be sound:" + rows,
-                                        MsgType::Information);
+    for (const TgxFoundSourceString* row : job.refused)
+        rows += "\r\nLine " + std::to_string(row->Line + 1) + ", " + row->ID + ": " + row->Note;
+    context_.ide.GetUi().MessageDlg("Left alone, because the unit would not be sound:" + rows,
+                                    MsgType::Information);
 }
 
 // A call in a routine that is no method of the form cannot name the component alone, nor a form without a
@@ -288,11 +295,12 @@ bool ScanReplace::ReviewRows(Job& job) {
                     job.glotta});
     form.caption = "Found String Constants (" + job.unitName + ")";
     if (context_.ide.GetUi().ShowModal(form) != ModalResult::OK) return false;
-    // What the developer saw with its note and kept is the developer's wish; the proof below still guards the
-    // source.
+    // A row with a note is left alone, unless the developer gave it a replacement of its own; the proof below
+    // still guards the source.
     TgxFoundSourceStrings& found = context_.results.found;
     for (std::size_t i = 0; i < found.Count() && !job.constMode; ++i)
-        if (!found[i].Deleted) found[i].Note.clear();
+        if (!found[i].Note.empty() && !IsAsBuilt(found[i], job.Replacements(context_.settings.Values())))
+            found[i].Note.clear();
     return true;
 }
 
@@ -356,7 +364,10 @@ TextEdits ScanReplace::SoundLiteralEdits(Job& job) {
         EditVerdicts verdicts = CheckEdits(job.text, edits, {}, job.flavour->IsCPPSource);
         if (verdicts.Sound()) return edits;
         for (std::size_t i = 0; i < rows.size(); ++i)
-            if (!verdicts.rows[i].empty()) rows[i]->Note = verdicts.rows[i];
+            if (!verdicts.rows[i].empty()) {
+                rows[i]->Note = verdicts.rows[i];
+                job.refused.push_back(rows[i]);
+            }
     }
 }
 

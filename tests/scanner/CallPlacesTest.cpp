@@ -97,6 +97,13 @@ TEST(CallPlaces, ArgumentsThatArePointers) {
              "argument of strcpy is "
              "a char pointer: add .c_str() to the call|\"dd\" "}},
            true, "void f() { ");
+    const std::string pointer = " initial value of a char pointer: add .c_str() to the call";
+    Expect({{"const char *p = \"aa\", *q = c ? \"bb\" : \"cc\"; LPCTSTR r = _T(\"dd\"); char* s = "
+             "String(\"ee\").c_str(); "
+             "String t = \"ff\"; t = (char*)\"gg\"; char u = v * f(\"hh\");",
+             "\"aa\"" + pointer + "|\"bb\"" + pointer + "|\"cc\"" + pointer + "|\"dd\"" + pointer +
+                 "|\"ee\" |\"ff\" |\"gg\" |\"hh\" "}},
+           true, "void f() { ");
 }
 
 TEST(CallPlaces, PascalStatements) {
