@@ -16,8 +16,7 @@ TfrmTransEditor::TfrmTransEditor(Ui& ui, TgxCustomLang& component, const TransEd
     Column.Set(std::min(2, texts_.Languages()));
     DeclareActions();
     lbKinds.OnChange = [this] {
-        if (lbKinds.Row() >= 0 && lbKinds.At(std::size_t(lbKinds.Row())) != sgTexts.Kind())
-            ListTexts();
+        if (lbKinds.Row() >= 0 && lbKinds.At(std::size_t(lbKinds.Row())) != sgTexts.Kind()) ListTexts();
     };
     sgTexts.OnChange = [this] { ShowCell(); };
     sgTexts.OnEnter = [this](std::size_t record, int column, const std::string& text) {
@@ -45,25 +44,48 @@ void TfrmTransEditor::DeclareActions() {
     const auto canFind = [this] { return !edFind().empty() && sgTexts.RowCount() > 0; };
     const auto isMissing = [this] {
         for (std::size_t row = 0; row < lbKinds.RowCount(); ++row)
-            if (lbKinds.CellText(row, KindsList::Missing) != "0")
-                return true;
+            if (lbKinds.CellText(row, KindsList::Missing) != "0") return true;
         return false;
     };
-    acFindNext = {"Find &Next", "F3", "Goes to the next text that holds what is typed", [this] { Find(1, false); },
-                  canFind, {}};
-    acFindPrevious = {"Find &Previous", "Shift+F3", "Goes back to the text before that holds what is typed",
-                      [this] { Find(-1, false); }, canFind, {}};
-    acNextUntranslated = {"Next &Untranslated", "F8", "Goes to the next text without translation",
-                          [this] { GoToUntranslated(1); }, isMissing, {}};
-    acPreviousUntranslated = {"Pre&vious Untranslated", "Shift+F8", "Goes back to the text before without translation",
-                              [this] { GoToUntranslated(-1); }, isMissing, {}};
-    acCopyFirst = {"&Copy First Language", "Ctrl+D", "Copies the text of the first language to the current one",
-                   [this] { CopyFirst(); }, [=, this] { return hasTexts() && Language() > 1 && !Targets().empty(); }, {}};
-    acRenameID = {"&Rename Identifier...", "Ctrl+R", "Gives the string another identifier", [this] { RenameID(); },
-                  [this] { return HasCurrent() && sgTexts.Kind() == stStrings; }, {}};
-    acNavigate = {"&Show in Source", "Ctrl+Return", "Shows where the unit uses the identifier", [this] { Navigate(); },
-                  [this] { return hooks_.NavigateToSource && HasCurrent() && sgTexts.Kind() == stStrings; }, {}};
-    btAbout = {"&About...", {}, {}, [this] { hooks_.ShowAboutBox(); }, [this] { return bool(hooks_.ShowAboutBox); }, {}};
+    acFindNext = {
+        "Find &Next", "F3", "Goes to the next text that holds what is typed", [this] { Find(1, false); },
+        canFind,      {}};
+    acFindPrevious = {"Find &Previous",
+                      "Shift+F3",
+                      "Goes back to the text before that holds what is typed",
+                      [this] { Find(-1, false); },
+                      canFind,
+                      {}};
+    acNextUntranslated = {"Next &Untranslated",
+                          "F8",
+                          "Goes to the next text without translation",
+                          [this] { GoToUntranslated(1); },
+                          isMissing,
+                          {}};
+    acPreviousUntranslated = {
+        "Pre&vious Untranslated",         "Shift+F8", "Goes back to the text before without translation",
+        [this] { GoToUntranslated(-1); }, isMissing,  {}};
+    acCopyFirst = {"&Copy First Language",
+                   "Ctrl+D",
+                   "Copies the text of the first language to the current one",
+                   [this] { CopyFirst(); },
+                   [=, this] { return hasTexts() && Language() > 1 && !Targets().empty(); },
+                   {}};
+    acRenameID = {"&Rename Identifier...",
+                  "Ctrl+R",
+                  "Gives the string another identifier",
+                  [this] { RenameID(); },
+                  [this] { return HasCurrent() && sgTexts.Kind() == stStrings; },
+                  {}};
+    acNavigate = {"&Show in Source",
+                  "Ctrl+Return",
+                  "Shows where the unit uses the identifier",
+                  [this] { Navigate(); },
+                  [this] { return hooks_.NavigateToSource && HasCurrent() && sgTexts.Kind() == stStrings; },
+                  {}};
+    btAbout = {
+        "&About...", {}, {}, [this] { hooks_.ShowAboutBox(); }, [this] { return bool(hooks_.ShowAboutBox); },
+        {}};
     btOK = {"OK", {}, {}, [this] { Close(ui_, ModalResult::OK); }, {}, {}};
     btCancel = {"Cancel", {}, {}, [this] { Close(ui_, ModalResult::Cancel); }, {}, {}};
 }
@@ -83,8 +105,7 @@ std::vector<std::size_t> TfrmTransEditor::Targets() const {
 
 // The current text stays current while it is listed.
 void TfrmTransEditor::ListTexts() {
-    if (lbKinds.Row() < 0)
-        return;
+    if (lbKinds.Row() < 0) return;
     const TStringsType kind = lbKinds.At(std::size_t(lbKinds.Row()));
     const bool sameKind = kind == sgTexts.Kind() && HasCurrent();
     const std::size_t record = sameKind ? CurrentRecord() : 0;
@@ -104,8 +125,7 @@ void TfrmTransEditor::ShowCell() {
     lblText.Set(isText ? texts_.LanguageName(language) + ":" : "Translation:");
     memText.Set(isText ? text(language) : std::string());
     memText.Enable(isText);
-    if (OnView)
-        OnView();
+    if (OnView) OnView();
 }
 
 std::array<std::string, 2> TfrmTransEditor::StatusTexts() const {
@@ -122,11 +142,9 @@ std::array<std::string, 2> TfrmTransEditor::StatusTexts() const {
 
 void TfrmTransEditor::ShowPlace(const TransEditorPlace& place) {
     const int kindRow = lbKinds.RowOf(place.kind);
-    if (kindRow < 0 || place.index < 0)
-        return;
+    if (kindRow < 0 || place.index < 0) return;
     lbKinds.SelectOnly(kindRow);
-    if (const int row = sgTexts.RowOf(std::size_t(place.index)); row >= 0)
-        sgTexts.SelectOnly(row);
+    if (const int row = sgTexts.RowOf(std::size_t(place.index)); row >= 0) sgTexts.SelectOnly(row);
 }
 
 // --- what is typed ---
@@ -134,15 +152,12 @@ void TfrmTransEditor::ShowPlace(const TransEditorPlace& place) {
 void TfrmTransEditor::TextsChanged() {
     sgTexts.Refresh();
     lbKinds.Refresh();
-    if (OnView)
-        OnView();
+    if (OnView) OnView();
 }
 
 bool TfrmTransEditor::EnterText(std::size_t record, int column, const std::string& text) {
-    if (column == 0 && !EnterID(record, text))
-        return false;
-    if (column > 0)
-        texts_.SetText(sgTexts.Kind(), record, column, text);
+    if (column == 0 && !EnterID(record, text)) return false;
+    if (column > 0) texts_.SetText(sgTexts.Kind(), record, column, text);
     TextsChanged();
     ShowCell();
     return true;
@@ -150,22 +165,21 @@ bool TfrmTransEditor::EnterText(std::size_t record, int column, const std::strin
 
 // The memo gives CR LF; a text that had bare line feeds, or whose first language has, keeps to them.
 void TfrmTransEditor::TypeText() {
-    if (!HasCurrent() || Language() == 0)
-        return;
+    if (!HasCurrent() || Language() == 0) return;
     const auto hasBare = [](const std::string& text) {
         return text.find('\n') != std::string::npos && text.find('\r') == std::string::npos;
     };
     const TStringsType kind = sgTexts.Kind();
     const std::size_t record = CurrentRecord();
-    const bool bare = hasBare(texts_.Field(kind, record, Language())) || hasBare(texts_.Field(kind, record, 1));
+    const bool bare =
+        hasBare(texts_.Field(kind, record, Language())) || hasBare(texts_.Field(kind, record, 1));
     texts_.SetText(kind, record, Language(), bare ? ReplaceStr(memText(), "\r\n", "\n") : memText());
     TextsChanged();
 }
 
 bool TfrmTransEditor::EnterID(std::size_t record, const std::string& id) {
     const std::string before = texts_.ID(stStrings, record);
-    if (id == before)
-        return true;
+    if (id == before) return true;
     const bool usable = !Trim(id).empty() && std::none_of(id.begin(), id.end(), [](unsigned char c) {
         return c < ' ' || c == '\'' || c == '"';
     });
@@ -192,8 +206,7 @@ bool TfrmTransEditor::EnterID(std::size_t record, const std::string& id) {
 // Cells are searched row by row, from the one behind the current cell, and around the end.
 void TfrmTransEditor::Find(int step, bool fromHere) {
     const int rows = int(sgTexts.RowCount()), columns = int(sgTexts.ColumnCount());
-    if (rows == 0 || edFind().empty())
-        return;
+    if (rows == 0 || edFind().empty()) return;
     const std::string upper = UpperCase(edFind());
     const long long cells = 1LL * rows * columns;
     const long long here = 1LL * std::max(sgTexts.Row(), 0) * columns + std::clamp(Column(), 0, columns - 1);
@@ -213,8 +226,7 @@ void TfrmTransEditor::Find(int step, bool fromHere) {
         }
         ++i;
     }
-    if (!fromHere)
-        ui_.MessageDlg("\"" + edFind() + "\" was not found.", MsgType::Information);
+    if (!fromHere) ui_.MessageDlg("\"" + edFind() + "\" was not found.", MsgType::Information);
 }
 
 // In the rows of the listed kind from the current one on, or in all of them.
@@ -230,21 +242,19 @@ bool TfrmTransEditor::GoToUntranslatedIn(int language, int step, bool wholeKind)
     return false;
 }
 
-// On through this kind, the other kinds and this one again; then in the next language. What a filter hides is passed.
+// On through this kind, the other kinds and this one again; then in the next language. What a filter hides is
+// passed.
 void TfrmTransEditor::GoToUntranslated(int step) {
     const int languages = texts_.Languages(), kinds = int(lbKinds.RowCount());
     const int firstLanguage = std::max(Language(), 2), firstKind = lbKinds.Row();
     for (int i = 0; i < languages - 1; ++i) {
         const int language = 2 + (firstLanguage - 2 + i) % (languages - 1);
-        if (i == 0 && GoToUntranslatedIn(language, step, false))
-            return;
+        if (i == 0 && GoToUntranslatedIn(language, step, false)) return;
         for (int k = i == 0 ? 1 : 0; k <= kinds; ++k) {
             const int kind = (((firstKind + k * step) % kinds) + kinds) % kinds;
-            if (texts_.Untranslated(lbKinds.At(std::size_t(kind)), language) == 0)
-                continue;
+            if (texts_.Untranslated(lbKinds.At(std::size_t(kind)), language) == 0) continue;
             lbKinds.SelectOnly(kind);
-            if (GoToUntranslatedIn(language, step, true))
-                return;
+            if (GoToUntranslatedIn(language, step, true)) return;
         }
     }
     lbKinds.SelectOnly(firstKind);
@@ -263,8 +273,7 @@ void TfrmTransEditor::CopyFirst() {
         const ModalResult answer =
             ui_.MessageDlg(std::to_string(there) + " of the texts are translated already. Replace them, too?",
                            MsgType::Confirmation, {ModalResult::Yes, ModalResult::No, ModalResult::Cancel});
-        if (answer == ModalResult::Cancel)
-            return;
+        if (answer == ModalResult::Cancel) return;
         replace = answer == ModalResult::Yes;
     }
     for (const std::size_t record : records)
@@ -277,8 +286,7 @@ void TfrmTransEditor::CopyFirst() {
 void TfrmTransEditor::RenameID() {
     const std::size_t record = CurrentRecord();
     if (const auto id = ui_.InputBox(InputCaption, "New identifier:", texts_.ID(stStrings, record)))
-        if (EnterID(record, *id))
-            TextsChanged();
+        if (EnterID(record, *id)) TextsChanged();
 }
 
 void TfrmTransEditor::Navigate() {
@@ -318,8 +326,7 @@ bool TfrmTransEditor::CloseQuery(Ui& ui, ModalResult result) {
                                {ModalResult::Yes, ModalResult::No, ModalResult::Cancel});
     else if (result != ModalResult::OK)
         result = ModalResult::No;
-    if (result == ModalResult::Cancel)
-        return false;
+    if (result == ModalResult::Cancel) return false;
     if (result == ModalResult::No)
         TakeBack();
     else
@@ -327,10 +334,10 @@ bool TfrmTransEditor::CloseQuery(Ui& ui, ModalResult result) {
     return true;
 }
 
-bool TransEditorDialog::TransEditorDlg(TgxCustomLang& component, const std::optional<TransEditorPlace>& place) {
+bool TransEditorDialog::TransEditorDlg(TgxCustomLang& component,
+                                       const std::optional<TransEditorPlace>& place) {
     TfrmTransEditor dialog(ui_, component, *this);
-    if (place)
-        dialog.ShowPlace(*place);
+    if (place) dialog.ShowPlace(*place);
     ui_.ShowModal(dialog);
     return dialog.Changed();
 }

@@ -1,5 +1,5 @@
-// The translation editor: the texts of one localization component by kind, a row for each identifier, a column for
-// each language.
+// The translation editor: the texts of one localization component by kind, a row for each identifier, a
+// column for each language.
 #pragma once
 #include "platform/Form.h"
 #include "runtime/TransEditor.h"
@@ -13,8 +13,8 @@ namespace glotta {
 
 class TfrmTransEditor : public TForm {
 public:
-    // Both outlive the dialog. The form's texts are collected; unless the dialog is left with OK the component is
-    // afterwards as it was before.
+    // Both outlive the dialog. The form's texts are collected; unless the dialog is left with OK the
+    // component is afterwards as it was before.
     TfrmTransEditor(Ui& ui, TgxCustomLang& component, const TransEditor& hooks);
     TfrmTransEditor(const TfrmTransEditor&) = delete;
     TfrmTransEditor& operator=(const TfrmTransEditor&) = delete;
@@ -35,7 +35,8 @@ public:
     // The current cell: its text, and for reference that of the first language.
     TField<std::string> lblFirst, memFirst, lblText, memText;
 
-    TAction acFindNext, acFindPrevious, acNextUntranslated, acPreviousUntranslated, acCopyFirst, acRenameID, acNavigate;
+    TAction acFindNext, acFindPrevious, acNextUntranslated, acPreviousUntranslated, acCopyFirst, acRenameID,
+        acNavigate;
     TAction btAbout, btOK, btCancel;
 
     // Texts shown and in all; what the current language lacks.
@@ -49,7 +50,7 @@ private:
     void DeclareActions();
     bool HasCurrent() const { return sgTexts.Row() >= 0; }
     std::size_t CurrentRecord() const { return sgTexts.Record(std::size_t(sgTexts.Row())); }
-    int Language() const; // the current one, 0 when the identifier is current
+    int Language() const;                     // the current one, 0 when the identifier is current
     std::vector<std::size_t> Targets() const; // records
     void ListTexts();
     void ShowCell();

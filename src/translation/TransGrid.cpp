@@ -9,8 +9,9 @@ namespace glotta {
 namespace {
 
 constexpr std::array<const char*, StringsTypeCount> KindNames = {
-    "Captions",        "Hints",         "Display labels", "Strings",        "Fonts",       "Multiple lines",
-    "Dialog captions", "Other strings", "Locales",        "Character sets", "Collections", "List and tree items"};
+    "Captions", "Hints",          "Display labels",  "Strings",
+    "Fonts",    "Multiple lines", "Dialog captions", "Other strings",
+    "Locales",  "Character sets", "Collections",     "List and tree items"};
 
 } // namespace
 
@@ -34,8 +35,7 @@ int TransGrid::RowOf(std::size_t record) const {
 }
 
 std::string TransGrid::Header(std::size_t column) const {
-    if (column == 0)
-        return "Identifier";
+    if (column == 0) return "Identifier";
     const std::size_t missing = texts_.Untranslated(kind_, int(column));
     const std::string& name = texts_.LanguageName(int(column));
     return missing == 0 ? name : name + " (" + std::to_string(missing) + " missing)";
@@ -58,8 +58,7 @@ RowLook TransGrid::CellLook(std::size_t row, std::size_t column) const {
 }
 
 std::vector<std::uint32_t> TransGrid::Sorted(std::vector<std::uint32_t> rows) const {
-    if (sorting_.column < 0)
-        return rows;
+    if (sorting_.column < 0) return rows;
     std::vector<std::string> keys; // made once, not at each comparison
     keys.reserve(rows.size());
     for (const std::uint32_t record : rows)
@@ -90,8 +89,7 @@ void TransGrid::Sort(std::size_t column, bool descending) {
 
 KindsList::KindsList(const TransTexts& texts) : TGrid(Picking::Single), texts_(texts) {
     for (int kind = 0; kind < StringsTypeCount; ++kind)
-        if (texts.Count(TStringsType(kind)) > 0)
-            kinds_.push_back(TStringsType(kind));
+        if (texts.Count(TStringsType(kind)) > 0) kinds_.push_back(TStringsType(kind));
 }
 
 int KindsList::RowOf(TStringsType kind) const {
@@ -113,8 +111,7 @@ std::size_t KindsList::MissingTexts(TStringsType kind) const {
 
 std::string KindsList::CellText(std::size_t row, std::size_t column) const {
     const TStringsType kind = kinds_[row];
-    if (column == Name)
-        return KindNames[kind];
+    if (column == Name) return KindNames[kind];
     return std::to_string(column == Texts ? texts_.Count(kind) : MissingTexts(kind));
 }
 

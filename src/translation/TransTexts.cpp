@@ -28,10 +28,8 @@ void TransTexts::CountRecord(List& list, std::string_view record, int by) const 
             empty = start + 1 == (end == std::string_view::npos ? record.size() : end);
             start = end;
         }
-        if (language == 1 && empty)
-            return;
-        if (empty)
-            list.untranslated[std::size_t(language)] += std::size_t(by);
+        if (language == 1 && empty) return;
+        if (empty) list.untranslated[std::size_t(language)] += std::size_t(by);
     }
 }
 
@@ -45,14 +43,12 @@ void TransTexts::Put(TStringsType kind, std::size_t row, int field, std::string_
     CountRecord(list, record, -1);
     record = WithField(record, field + 1, text);
     CountRecord(list, record, 1);
-    if (!list.upper.empty())
-        list.upper[row] = UpperCase(record);
+    if (!list.upper.empty()) list.upper[row] = UpperCase(record);
     changed_.set(std::size_t(kind));
 }
 
 bool TransTexts::SetText(TStringsType kind, std::size_t row, int language, std::string_view text) {
-    if (Field(kind, row, language) == text)
-        return false;
+    if (Field(kind, row, language) == text) return false;
     Put(kind, row, language, text);
     return true;
 }
@@ -60,8 +56,7 @@ bool TransTexts::SetText(TStringsType kind, std::size_t row, int language, std::
 void TransTexts::Rename(std::size_t row, std::string_view id) {
     if (ids_) {
         const auto old = ids_->find(ID(stStrings, row));
-        if (old != ids_->end() && --old->second == 0)
-            ids_->erase(old);
+        if (old != ids_->end() && --old->second == 0) ids_->erase(old);
         ++(*ids_)[std::string(id)];
     }
     Put(stStrings, row, 0, id);
@@ -78,7 +73,8 @@ bool TransTexts::HasID(std::string_view id) const {
 
 bool TransTexts::IsUntranslated(TStringsType kind, std::size_t row, int language) const {
     const std::string_view record = lists_[kind].records[row];
-    return language > 1 && language <= Languages() && ExtractWord(language + 1, record, ItemDelimiter).empty() &&
+    return language > 1 && language <= Languages() &&
+           ExtractWord(language + 1, record, ItemDelimiter).empty() &&
            !ExtractWord(2, record, ItemDelimiter).empty();
 }
 

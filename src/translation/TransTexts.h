@@ -1,5 +1,5 @@
-// The texts of a localization component while they are translated: records as the component holds them, decoded
-// cell by cell when somebody looks.
+// The texts of a localization component while they are translated: records as the component holds them,
+// decoded cell by cell when somebody looks.
 #pragma once
 #include "platform/Text.h"
 #include "runtime/CustomLang.h"
@@ -19,7 +19,9 @@ public:
     explicit TransTexts(const TgxCustomLang& component);
 
     int Languages() const { return int(names_.size()); }
-    const std::string& LanguageName(int language) const { return names_[std::size_t(language - 1)]; } // from 1
+    const std::string& LanguageName(int language) const {
+        return names_[std::size_t(language - 1)];
+    } // from 1
     std::size_t Count(TStringsType kind) const { return lists_[kind].records.size(); }
 
     std::string ID(TStringsType kind, std::size_t row) const { return Field(kind, row, 0); }
@@ -43,14 +45,15 @@ public:
 private:
     struct List {
         std::vector<std::string> records;
-        std::vector<std::size_t> untranslated;   // by language, from 1
+        std::vector<std::size_t> untranslated;  // by language, from 1
         mutable std::vector<std::string> upper; // for searching; built when somebody searches
     };
     void CountRecord(List& list, std::string_view record, int by) const;
     void Put(TStringsType kind, std::size_t row, int field, std::string_view text);
     std::vector<std::string> names_;
     std::array<List, StringsTypeCount> lists_;
-    mutable std::optional<std::unordered_map<std::string, int, TextHash, TextEqual>> ids_; // with their number
+    mutable std::optional<std::unordered_map<std::string, int, TextHash, TextEqual>>
+        ids_; // with their number
     std::bitset<StringsTypeCount> changed_;
 };
 

@@ -8,7 +8,8 @@
 
 namespace glotta {
 
-// An action of the window, shown in as many places as it is added to; its shortcut works anywhere in the window.
+// An action of the window, shown in as many places as it is added to; its shortcut works anywhere in the
+// window.
 inline QAction* WindowAction(QWidget& window, Bindings& bind, TAction& action) {
     auto* shown = new QAction(&window);
     shown->setShortcutContext(Qt::WindowShortcut);

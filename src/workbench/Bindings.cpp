@@ -24,8 +24,7 @@ class KeyFilter : public QObject {
 public:
     KeyFilter(QObject* parent, bool (*accepts)(char32_t)) : QObject(parent), accepts_(accepts) {}
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress)
-            return false;
+        if (event->type() != QEvent::KeyPress) return false;
         const auto typed = static_cast<QKeyEvent*>(event)->text().toUcs4();
         return !typed.isEmpty() && !accepts_(char32_t(typed.front())) && typed.front() != 127;
     }
@@ -61,21 +60,17 @@ void Bindings::Bind(TForm& form) {
 
 void Bindings::Bind(QLineEdit& edit, TField<std::string>& field) {
     Tie(field, edit, [&] {
-        if (edit.text() != Q(field()))
-            edit.setText(Q(field()));
+        if (edit.text() != Q(field())) edit.setText(Q(field()));
     });
-    QObject::connect(&edit, &QLineEdit::textEdited, Context(), [this, &field](const QString& text) {
-        Act([&] { field.Enter(text.toStdString()); });
-    });
+    QObject::connect(&edit, &QLineEdit::textEdited, Context(),
+                     [this, &field](const QString& text) { Act([&] { field.Enter(text.toStdString()); }); });
 }
 
 void Bindings::Bind(QPlainTextEdit& memo, TField<std::string>& field) {
     Tie(field, memo, [&] {
-        if (memo.toPlainText() != MemoText(field()))
-            memo.setPlainText(MemoText(field()));
+        if (memo.toPlainText() != MemoText(field())) memo.setPlainText(MemoText(field()));
     });
-    if (memo.isReadOnly())
-        return;
+    if (memo.isReadOnly()) return;
     QObject::connect(&memo, &QPlainTextEdit::textChanged, Context(), [this, &field, &memo] {
         Act([&] { field.Enter(memo.toPlainText().replace("\n", "\r\n").toStdString()); });
     });
@@ -94,8 +89,7 @@ void Bindings::Bind(QCheckBox& box, TField<bool>& field) {
 void Bindings::Bind(QComboBox& combo, TField<std::string>& field, const std::vector<std::string>& items) {
     const auto choose = [&] { combo.setCurrentIndex(combo.findText(Q(field()), Qt::MatchExactly)); };
     Always([&combo, &items, choose, shown = std::vector<std::string>()]() mutable {
-        if (shown == items)
-            return;
+        if (shown == items) return;
         const QSignalBlocker quiet(&combo);
         combo.clear();
         for (const std::string& item : items)
@@ -104,18 +98,20 @@ void Bindings::Bind(QComboBox& combo, TField<std::string>& field, const std::vec
         choose();
     });
     Tie(field, combo, choose);
-    QObject::connect(&combo, &QComboBox::currentTextChanged, Context(), [this, &field](const QString& text) {
-        Act([&] { field.Enter(text.toStdString()); });
-    });
+    QObject::connect(&combo, &QComboBox::currentTextChanged, Context(),
+                     [this, &field](const QString& text) { Act([&] { field.Enter(text.toStdString()); }); });
 }
 
 void Bindings::Bind(QButtonGroup& group, TField<int>& field) {
     Follow(field, [&] {
-        if (QAbstractButton* button = group.button(field()))
-            button->setChecked(true);
+        if (QAbstractButton* button = group.button(field())) button->setChecked(true);
     });
-    QObject::connect(&group, &QButtonGroup::idClicked, Context(),
-                     [this, &field](int id) { Act([&] { field.Set(id); if (field.OnChange) field.OnChange(); }); });
+    QObject::connect(&group, &QButtonGroup::idClicked, Context(), [this, &field](int id) {
+        Act([&] {
+            field.Set(id);
+            if (field.OnChange) field.OnChange();
+        });
+    });
 }
 
 void Bindings::Bind(QTabWidget& pages, TField<int>& field) {
@@ -132,28 +128,24 @@ void Bindings::Bind(QAbstractButton& button, TAction& action) {
     QObject::connect(&button, &QAbstractButton::clicked, Context(),
                      [this, &action] { Act([&] { action.Execute(); }); });
     Always([&] {
-        if (!action.caption.empty() && button.text() != Q(action.caption))
-            button.setText(Q(action.caption));
-        if (!action.shortcut.empty())
-            button.setShortcut(Keys(action.shortcut));
-        if (!action.hint.empty())
-            button.setToolTip(Q(action.hint));
+        if (!action.caption.empty() && button.text() != Q(action.caption)) button.setText(Q(action.caption));
+        if (!action.shortcut.empty()) button.setShortcut(Keys(action.shortcut));
+        if (!action.hint.empty()) button.setToolTip(Q(action.hint));
         button.setEnabled(action.Enabled());
-        if (button.isCheckable())
-            button.setChecked(action.Checked());
+        if (button.isCheckable()) button.setChecked(action.Checked());
     });
 }
 
 void Bindings::Bind(QAction& item, TAction& action) {
-    QObject::connect(&item, &QAction::triggered, Context(), [this, &action] { Act([&] { action.Execute(); }); });
+    QObject::connect(&item, &QAction::triggered, Context(),
+                     [this, &action] { Act([&] { action.Execute(); }); });
     item.setShortcut(Keys(action.shortcut));
     item.setCheckable(bool(action.checked));
     Always([&] {
         item.setText(Q(action.caption));
         item.setIconText(Q(action.caption).remove('&')); // with its dots
         QString hint = action.hint.empty() ? Q(action.caption).remove('&') : Q(action.hint);
-        if (!action.shortcut.empty())
-            hint += " (" + item.shortcut().toString(QKeySequence::NativeText) + ")";
+        if (!action.shortcut.empty()) hint += " (" + item.shortcut().toString(QKeySequence::NativeText) + ")";
         item.setToolTip(hint);
         item.setEnabled(action.Enabled());
         item.setChecked(action.Checked());
@@ -191,13 +183,11 @@ void Bindings::Always(std::function<void()> show) {
 void Bindings::Act(const std::function<void()>& act) {
     const QPointer<QObject> alive(Context());
     RunCommand(ui_, act);
-    if (alive)
-        Later();
+    if (alive) Later();
 }
 
 void Bindings::Later() {
-    if (pending_ || !context_)
-        return;
+    if (pending_ || !context_) return;
     pending_ = true;
     QMetaObject::invokeMethod(
         Context(),

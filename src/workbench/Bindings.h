@@ -1,4 +1,5 @@
-// Ties the controls of a view to the fields, actions and grids of its form, both ways, for as long as both live.
+// Ties the controls of a view to the fields, actions and grids of its form, both ways, for as long as both
+// live.
 #pragma once
 #include "platform/Form.h"
 #include "platform/Grid.h"
@@ -59,7 +60,7 @@ public:
     void Act(const std::function<void()>& act);
     QObject* Context() const { return context_.get(); } // for further connections of the view
 
-    void Later(); // shows what may have changed once the event at hand is done
+    void Later();   // shows what may have changed once the event at hand is done
     void Release(); // the form lives on without this view
     void Forget();  // the form is gone
 
@@ -77,8 +78,7 @@ private:
 template <class T> void Bindings::Follow(TField<T>& field, std::function<void()> show) {
     show();
     field.OnView = [this, before = field.OnView, show = std::move(show)] {
-        if (before)
-            before();
+        if (before) before();
         show();
         Later();
     };

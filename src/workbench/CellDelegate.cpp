@@ -30,12 +30,10 @@ CellDelegate::CellDelegate(GridView& view) : QStyledItemDelegate(&view), view_(v
 
 QString CellDelegate::displayText(const QVariant& value, const QLocale&) const {
     QString text = value.toString();
-    if (text.size() > MaxShown)
-        text.truncate(MaxShown);
+    if (text.size() > MaxShown) text.truncate(MaxShown);
     text.replace("\r\n", "\n");
     for (QChar& c : text)
-        if (c == '\n' || c == '\r')
-            c = QChar(0x21B5);
+        if (c == '\n' || c == '\r') c = QChar(0x21B5);
     return text;
 }
 
@@ -43,8 +41,7 @@ QString CellDelegate::displayText(const QVariant& value, const QLocale&) const {
 void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     const TGrid* grid = view_.Grid();
-    if (!grid)
-        return;
+    if (!grid) return;
     option->state.setFlag(QStyle::State_MouseOver, false);
     const auto row = std::size_t(index.row());
     const bool selected = grid->IsSelected(row);
@@ -57,12 +54,10 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
         option->icon = icon;
         option->decorationSize = QSize(option->fontMetrics.height(), option->fontMetrics.height());
     };
-    if (column == 0 && view_.RowIcon)
-        showIcon(view_.RowIcon(index.row()));
+    if (column == 0 && view_.RowIcon) showIcon(view_.RowIcon(index.row()));
     if (look == RowLook::Noted) {
         option->backgroundBrush = NotedColor(palette);
-        if (column == 0)
-            showIcon(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning));
+        if (column == 0) showIcon(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning));
     } else if (look == RowLook::Marked) {
         option->font.setStrikeOut(true);
         option->palette.setColor(QPalette::Text, palette.color(QPalette::Disabled, QPalette::Text));
@@ -70,21 +65,22 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
     if (selected)
         option->state |= QStyle::State_Selected;
     else if (current)
-        option->backgroundBrush = Blend(look == RowLook::Noted ? option->backgroundBrush.color()
-                                                               : palette.color(QPalette::Base),
-                                        palette.color(QPalette::Highlight), 0.22);
+        option->backgroundBrush =
+            Blend(look == RowLook::Noted ? option->backgroundBrush.color() : palette.color(QPalette::Base),
+                  palette.color(QPalette::Highlight), 0.22);
 }
 
 // The current cell has a frame, for commands may work on its column.
-void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
     QStyleOptionViewItem plain = option;
     plain.state.setFlag(QStyle::State_HasFocus, false);
     QStyledItemDelegate::paint(painter, plain, index);
-    if (index != view_.currentIndex() || !(index.flags() & Qt::ItemIsEditable))
-        return;
+    if (index != view_.currentIndex() || !(index.flags() & Qt::ItemIsEditable)) return;
     const bool selected = view_.Grid() && view_.Grid()->IsSelected(std::size_t(index.row()));
     painter->save();
-    painter->setPen(QPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight), 1));
+    painter->setPen(
+        QPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight), 1));
     painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
     painter->restore();
 }
@@ -93,8 +89,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
                                     const QModelIndex& index) const {
     if (!index.data(Qt::EditRole).toString().contains('\n')) {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (auto* line = qobject_cast<QLineEdit*>(editor))
-            line->setFrame(false);
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) line->setFrame(false);
         return editor;
     }
     auto* memo = new QPlainTextEdit(parent);
@@ -106,8 +101,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
 void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex& index) const {
     QStyledItemDelegate::updateEditorGeometry(editor, option, index);
-    if (qobject_cast<QPlainTextEdit*>(editor))
-        editor->resize(option.rect.width(), option.rect.height() * 4);
+    if (qobject_cast<QPlainTextEdit*>(editor)) editor->resize(option.rect.width(), option.rect.height() * 4);
 }
 
 } // namespace glotta

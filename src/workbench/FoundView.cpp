@@ -35,8 +35,7 @@ public:
 private:
     QAction* Shown(TAction& action) {
         QAction*& shown = shown_[&action];
-        if (!shown)
-            shown = WindowAction(*this, bind, action);
+        if (!shown) shown = WindowAction(*this, bind, action);
         return shown;
     }
 
@@ -56,7 +55,8 @@ private:
         auto& c = controls;
         MakeSourcePane(*c.edPreview);
         bind.Follow(form.edPreview, [this, &c] {
-            ShowSource(*c.edPreview, form.edPreview(), form.PreviewLine, form.PreviewColumn, form.PreviewLength);
+            ShowSource(*c.edPreview, form.edPreview(), form.PreviewLine, form.PreviewColumn,
+                       form.PreviewLength);
         });
         c.lblNote->setAutoFillBackground(true);
         QPalette noted = c.lblNote->palette();
@@ -70,7 +70,8 @@ private:
         c.Splitter->setSizes({400, 190});
         bind.Follow(form.PreviewHeight, [this, &c] {
             if (form.PreviewHeight() > 0)
-                c.Splitter->setSizes({std::max(c.Splitter->height() - form.PreviewHeight(), 60), form.PreviewHeight()});
+                c.Splitter->setSizes(
+                    {std::max(c.Splitter->height() - form.PreviewHeight(), 60), form.PreviewHeight()});
         });
         connect(c.Splitter, &QSplitter::splitterMoved, bind.Context(),
                 [this, &c] { form.PreviewHeight.Enter(c.Splitter->sizes().back()); });
@@ -103,7 +104,8 @@ private:
         bar.addWidget(ignore);
         ignore->setMinimumWidth(ignore->sizeHint().width() + 12); // its arrow
         bar.addSeparator();
-        bar.addActions({Shown(form.acSwitchDeleted), Shown(form.acRestoreDeletedRow), Shown(form.acViewSkipped)});
+        bar.addActions(
+            {Shown(form.acSwitchDeleted), Shown(form.acRestoreDeletedRow), Shown(form.acViewSkipped)});
         bar.addSeparator();
         bar.addAction(Shown(form.acHelp));
         LetTabReach(bar);

@@ -1,5 +1,5 @@
-// A list or grid on the screen. Current row and picked rows are the form's grid's: clicks and keys are told to it, and
-// what it holds is drawn.
+// A list or grid on the screen. Current row and picked rows are the form's grid's: clicks and keys are told
+// to it, and what it holds is drawn.
 #pragma once
 #include "workbench/GridModel.h"
 
@@ -30,11 +30,11 @@ public:
     // Makes the cell current and starts editing where that is allowed.
     void EditCell(int row, int column);
 
-    std::function<void()> OnChanged;                      // current row or selection
-    std::function<void(int row)> OnActivated;             // double click or Enter
-    std::function<void(const QPoint& global)> OnPopup;    // the context menu is wanted
-    std::function<void(int column)> OnColumn;             // another column became current
-    std::function<void()> OnWidths;                       // the person drew a column wider
+    std::function<void()> OnChanged;                   // current row or selection
+    std::function<void(int row)> OnActivated;          // double click or Enter
+    std::function<void(const QPoint& global)> OnPopup; // the context menu is wanted
+    std::function<void(int column)> OnColumn;          // another column became current
+    std::function<void()> OnWidths;                    // the person drew a column wider
 
     void selectAll() override;
 

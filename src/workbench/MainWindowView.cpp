@@ -36,8 +36,7 @@ public:
             c.StatusBar->addWidget(label);
             bind.Bind(*label, panel);
         }
-        if (form.Placement())
-            Place(*this, *form.Placement());
+        if (form.Placement()) Place(*this, *form.Placement());
         bind.AtEnd([this] {
             menu_.reset();
             buttons_.reset();
@@ -46,8 +45,7 @@ public:
         c.lvFormNames->setFocus();
     }
     void Moved() override {
-        if (!window()->parent() || isWindow())
-            form.Placement.Enter(PlacementOf(*this));
+        if (!window()->parent() || isWindow()) form.Placement.Enter(PlacementOf(*this));
     }
 
 private:
@@ -63,8 +61,7 @@ private:
 
     // Windows take this flag while they are hidden only.
     void StayOnTop() {
-        if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == form.StayOnTop() || !isWindow())
-            return;
+        if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == form.StayOnTop() || !isWindow()) return;
         const bool shown = isVisible();
         setWindowFlag(Qt::WindowStaysOnTopHint, form.StayOnTop());
         setVisible(shown);

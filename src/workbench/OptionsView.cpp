@@ -15,10 +15,15 @@ namespace glotta {
 namespace {
 
 // In the order of the menu sections.
-constexpr QStyle::StandardPixmap SectionIcons[] = {
-    QStyle::SP_FileIcon,   QStyle::SP_FileDialogDetailedView, QStyle::SP_FileDialogContentsView,
-    QStyle::SP_DesktopIcon, QStyle::SP_DirIcon,               QStyle::SP_MediaPlay,
-    QStyle::SP_DriveHDIcon, QStyle::SP_ComputerIcon,          QStyle::SP_DialogHelpButton};
+constexpr QStyle::StandardPixmap SectionIcons[] = {QStyle::SP_FileIcon,
+                                                   QStyle::SP_FileDialogDetailedView,
+                                                   QStyle::SP_FileDialogContentsView,
+                                                   QStyle::SP_DesktopIcon,
+                                                   QStyle::SP_DirIcon,
+                                                   QStyle::SP_MediaPlay,
+                                                   QStyle::SP_DriveHDIcon,
+                                                   QStyle::SP_ComputerIcon,
+                                                   QStyle::SP_DialogHelpButton};
 
 class OptionsView : public WindowOf<QDialog, Ui_OptionsView, TfrmOptions> {
 public:
@@ -64,10 +69,13 @@ private:
             c.hkInMenu->setKeySequence(QKeySequence(Q(ShortCutToText(form.hkInMenu()))));
         });
         // One key, not a sequence of several.
-        connect(c.hkInMenu, &QKeySequenceEdit::keySequenceChanged, bind.Context(), [this](const QKeySequence& keys) {
-            const QKeySequence first(keys.isEmpty() ? QKeySequence() : QKeySequence(keys[0]));
-            bind.Act([&] { form.hkInMenu.Enter(TextToShortCut(S(first.toString(QKeySequence::PortableText)))); });
-        });
+        connect(c.hkInMenu, &QKeySequenceEdit::keySequenceChanged, bind.Context(),
+                [this](const QKeySequence& keys) {
+                    const QKeySequence first(keys.isEmpty() ? QKeySequence() : QKeySequence(keys[0]));
+                    bind.Act([&] {
+                        form.hkInMenu.Enter(TextToShortCut(S(first.toString(QKeySequence::PortableText))));
+                    });
+                });
         connect(c.hkInMenu, &QKeySequenceEdit::editingFinished, bind.Context(),
                 [this] { form.hkInMenu.Set(form.hkInMenu()); });
         bind.Bind(*c.cbOpenAll, form.cbOpenAll);
@@ -86,8 +94,8 @@ private:
         BindNumber(*c.edIgnorableLength, form.edIgnorableLength, *c.sbIgnorableUp, form.sbIgnorableUp,
                    *c.sbIgnorableDown, form.sbIgnorableDown);
         bind.FilterKeys(*c.edIgnorableLength, TfrmOptions::AcceptsKey);
-        BindNumber(*c.edCommentsLength, form.edCommentsLength, *c.sbCommentsUp, form.sbCommentsUp, *c.sbCommentsDown,
-                   form.sbCommentsDown);
+        BindNumber(*c.edCommentsLength, form.edCommentsLength, *c.sbCommentsUp, form.sbCommentsUp,
+                   *c.sbCommentsDown, form.sbCommentsDown);
         BindNumber(*c.edPreviewLines, form.edPreviewLines, *c.sbPreviewUp, form.sbPreviewUp, *c.sbPreviewDown,
                    form.sbPreviewDown);
         bind.Bind(*c.cbReplaceMethod, form.cbReplaceMethod, form.cbReplaceMethod.Items);

@@ -21,8 +21,7 @@ void Place(QWidget& window, const FormPlacement& placement) {
     window.setGeometry(std::clamp(wanted.left(), free.left(), free.right() - size.width() + 1),
                        std::clamp(wanted.top(), free.top(), free.bottom() - size.height() + 1), size.width(),
                        size.height());
-    if (placement.maximized)
-        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    if (placement.maximized) window.setWindowState(window.windowState() | Qt::WindowMaximized);
 }
 
 } // namespace glotta

@@ -44,15 +44,16 @@ Kind KindOf(MsgType type) {
 constexpr struct {
     ModalResult result;
     QMessageBox::StandardButton button;
-} Buttons[] = {{ModalResult::OK, QMessageBox::Ok},           {ModalResult::Cancel, QMessageBox::Cancel},
-               {ModalResult::Yes, QMessageBox::Yes},         {ModalResult::No, QMessageBox::No},
+} Buttons[] = {{ModalResult::OK, QMessageBox::Ok},
+               {ModalResult::Cancel, QMessageBox::Cancel},
+               {ModalResult::Yes, QMessageBox::Yes},
+               {ModalResult::No, QMessageBox::No},
                {ModalResult::YesToAll, QMessageBox::YesToAll}};
 
 // What closing the box with its own button or Escape means.
 ModalResult Unanswered(const MsgButtons& buttons) {
     for (const ModalResult way : {ModalResult::Cancel, ModalResult::No, ModalResult::OK})
-        if (std::find(buttons.begin(), buttons.end(), way) != buttons.end())
-            return way;
+        if (std::find(buttons.begin(), buttons.end(), way) != buttons.end()) return way;
     return ModalResult::Cancel;
 }
 
@@ -66,30 +67,27 @@ QtUi::~QtUi() {
 }
 
 QWidget* QtUi::Parent() const {
-    if (QWidget* modal = QApplication::activeModalWidget())
-        return modal;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     QWidget* active = QApplication::activeWindow();
-    return active ? active : mainWindow;
+    return active && active != progress_.get() ? active : mainWindow;
 }
 
 ModalResult QtUi::MessageDlg(const std::string& text, MsgType type, const MsgButtons& buttons,
                              const std::string& caption) {
     if (AnswerMessage)
-        if (const auto answer = AnswerMessage(text, buttons))
-            return *answer;
+        if (const auto answer = AnswerMessage(text, buttons)) return *answer;
     const ProgressWindow::Hidden hidden(progress_.get());
     const Kind kind = KindOf(type);
-    QMessageBox box(kind.icon, Q(caption.empty() ? kind.caption : caption), Q(text), QMessageBox::NoButton, Parent());
-    if (box.windowTitle().isEmpty())
-        box.setWindowTitle(QApplication::applicationDisplayName());
+    QMessageBox box(kind.icon, Q(caption.empty() ? kind.caption : caption), Q(text), QMessageBox::NoButton,
+                    Parent());
+    if (box.windowTitle().isEmpty()) box.setWindowTitle(QApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     const ModalResult unanswered = Unanswered(buttons);
     for (const auto& known : Buttons)
         if (std::find(buttons.begin(), buttons.end(), known.result) != buttons.end()) {
             QAbstractButton* const button = box.addButton(known.button);
-            if (known.result == unanswered)
-                box.setEscapeButton(button);
+            if (known.result == unanswered) box.setEscapeButton(button);
         }
     box.exec();
     for (const auto& known : Buttons)
@@ -100,22 +98,19 @@ ModalResult QtUi::MessageDlg(const std::string& text, MsgType type, const MsgBut
 
 std::optional<std::string> QtUi::InputBox(const std::string& caption, const std::string& prompt,
                                           const std::string& initial) {
-    if (AnswerInput)
-        return AnswerInput(prompt, initial);
+    if (AnswerInput) return AnswerInput(prompt, initial);
     const ProgressWindow::Hidden hidden(progress_.get());
     QInputDialog box(Parent());
     box.setWindowTitle(Q(caption));
     box.setLabelText(Q(prompt));
     box.setTextValue(Q(initial));
     box.resize(420, box.sizeHint().height());
-    if (box.exec() != QDialog::Accepted)
-        return {};
+    if (box.exec() != QDialog::Accepted) return {};
     return box.textValue() == Q(initial) ? initial : box.textValue().toStdString();
 }
 
 bool QtUi::Execute(FileDialog& dialog) {
-    if (AnswerFiles)
-        return AnswerFiles(dialog);
+    if (AnswerFiles) return AnswerFiles(dialog);
     const ProgressWindow::Hidden hidden(progress_.get());
     const QFileInfo initial(Q(dialog.fileName));
     QFileDialog box(Parent(), Q(dialog.title), initial.path());
@@ -130,8 +125,7 @@ bool QtUi::Execute(FileDialog& dialog) {
     }
     box.setDefaultSuffix(Q(dialog.defaultExtension));
     box.selectFile(initial.fileName());
-    if (box.exec() != QDialog::Accepted)
-        return false;
+    if (box.exec() != QDialog::Accepted) return false;
     dialog.files.clear();
     for (const QString& file : box.selectedFiles())
         dialog.files.push_back(QDir::toNativeSeparators(file).toStdString());
@@ -143,9 +137,10 @@ bool QtUi::Execute(FileDialog& dialog) {
 // --- windows ---
 
 View& QtUi::Open(TForm& form, bool modal) {
-    View* const view = MakeView(form, *this, modal ? Parent() : mainWindow);
-    if (!view)
-        throw Error(std::string("No window for ") + typeid(form).name());
+    // Over a modal window a window is its child, for all others wait until that is closed.
+    QWidget* const parent = modal || QApplication::activeModalWidget() ? Parent() : mainWindow;
+    View* const view = MakeView(form, *this, parent);
+    if (!view) throw Error(std::string("No window for ") + typeid(form).name());
     views_[&form] = view;
     form.OnGone = [this, &form] { Closed(form, true); };
     return *view;
@@ -153,8 +148,7 @@ View& QtUi::Open(TForm& form, bool modal) {
 
 void QtUi::Closed(const TForm& form, bool formIsGone) {
     const auto found = views_.find(&form);
-    if (found == views_.end())
-        return;
+    if (found == views_.end()) return;
     View* const view = found->second;
     views_.erase(found);
     if (formIsGone) {
@@ -162,6 +156,11 @@ void QtUi::Closed(const TForm& form, bool formIsGone) {
     } else {
         view->bind.Release();
     }
+    for (const auto& [other, itsView] : views_)
+        if (QWidget& child = itsView->Window(); child.parentWidget() == &view->Window()) {
+            child.setParent(mainWindow, child.windowFlags());
+            child.show();
+        }
     view->Window().hide();
     view->Window().deleteLater(); // it may be a slot of this window that runs
 }
@@ -178,20 +177,17 @@ ModalResult QtUi::ShowModal(TForm& form) {
     window.show();
     window.raise();
     window.activateWindow();
-    if (UseModal)
-        QTimer::singleShot(0, &window, [&] { UseModal(form, window); });
+    if (UseModal) QTimer::singleShot(0, &window, [&] { UseModal(form, window); });
     loop.exec();
     form.OnClose = {};
     form.OnGone = {};
     Closed(form, false);
-    if (before)
-        before->setFocus();
+    if (before) before->setFocus();
     return form.modalResult;
 }
 
 void QtUi::Show(TForm& form) {
-    if (views_.contains(&form))
-        return BringToFront(form);
+    if (views_.contains(&form)) return BringToFront(form);
     View& view = Open(form, false);
     form.OnClose = [this, &form] {
         form.OnGone = {};
@@ -203,10 +199,8 @@ void QtUi::Show(TForm& form) {
 
 void QtUi::BringToFront(TForm& form) {
     QWidget* const window = WindowOf(form);
-    if (!window)
-        return Show(form);
-    if (window->isMinimized())
-        window->showNormal();
+    if (!window) return Show(form);
+    if (window->isMinimized()) window->showNormal();
     window->window()->raise();
     window->window()->activateWindow();
 }
@@ -217,8 +211,7 @@ QWidget* QtUi::WindowOf(const TForm& form) const {
 }
 
 void QtUi::SetProgress(const std::string& text) {
-    if (!progress_)
-        progress_ = std::make_unique<ProgressWindow>();
+    if (!progress_) progress_ = std::make_unique<ProgressWindow>();
     progress_->SetText(Q(text), Parent());
 }
 

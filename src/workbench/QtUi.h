@@ -39,8 +39,10 @@ public:
     QWidget* mainWindow = nullptr;
 
     // Somebody else's answers, for runs without a person. A question that nobody answers is shown.
-    std::function<std::optional<ModalResult>(const std::string& text, const MsgButtons& buttons)> AnswerMessage;
-    std::function<std::optional<std::string>(const std::string& prompt, const std::string& initial)> AnswerInput;
+    std::function<std::optional<ModalResult>(const std::string& text, const MsgButtons& buttons)>
+        AnswerMessage;
+    std::function<std::optional<std::string>(const std::string& prompt, const std::string& initial)>
+        AnswerInput;
     std::function<bool(FileDialog& dialog)> AnswerFiles;
     // Runs within the loop of a modal window, once it is shown.
     std::function<void(TForm& form, QWidget& window)> UseModal;

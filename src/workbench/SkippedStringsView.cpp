@@ -29,8 +29,7 @@ public:
         close->setShortcut(Qt::Key_Escape);
         addAction(close);
         connect(close, &QAction::triggered, this, [this] { AskToClose(); });
-        if (form.Placement())
-            Place(*this, *form.Placement());
+        if (form.Placement()) Place(*this, *form.Placement());
     }
     void Moved() override { form.Placement.Enter(PlacementOf(*this)); }
 };

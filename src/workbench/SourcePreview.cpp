@@ -25,11 +25,9 @@ void MakeSourcePane(QPlainTextEdit& pane) {
 
 void ShowSource(QPlainTextEdit& pane, const std::string& text, int line, int column, int length) {
     const QString shown = WithLineFeeds(text);
-    if (pane.toPlainText() != shown)
-        pane.setPlainText(shown);
+    if (pane.toPlainText() != shown) pane.setPlainText(shown);
     const QTextBlock block = pane.document()->findBlockByNumber(line);
-    if (!block.isValid() || text.empty())
-        return pane.setExtraSelections({});
+    if (!block.isValid() || text.empty()) return pane.setExtraSelections({});
     // The literal may go on in the next lines, so its length counts line ends as the source has them.
     std::string_view rest = text;
     for (int i = 0; i < line; ++i) {

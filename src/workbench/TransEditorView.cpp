@@ -49,9 +49,12 @@ private:
     void BindCommands() {
         auto& c = controls;
         const std::pair<QPushButton*, TAction*> buttons[] = {
-            {c.btFindPrevious, &form.acFindPrevious},         {c.btFindNext, &form.acFindNext},
-            {c.btNextUntranslated, &form.acNextUntranslated}, {c.btPreviousUntranslated, &form.acPreviousUntranslated},
-            {c.btCopyFirst, &form.acCopyFirst},               {c.btRenameID, &form.acRenameID},
+            {c.btFindPrevious, &form.acFindPrevious},
+            {c.btFindNext, &form.acFindNext},
+            {c.btNextUntranslated, &form.acNextUntranslated},
+            {c.btPreviousUntranslated, &form.acPreviousUntranslated},
+            {c.btCopyFirst, &form.acCopyFirst},
+            {c.btRenameID, &form.acRenameID},
             {c.btNavigate, &form.acNavigate}};
         auto* popup = new QMenu(this);
         for (const auto& [button, action] : buttons) {

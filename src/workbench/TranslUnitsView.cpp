@@ -26,11 +26,9 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress)
-            return QDialog::eventFilter(watched, event);
+        if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Up && key != Qt::Key_Down)
-            return QDialog::eventFilter(watched, event);
+        if (key != Qt::Key_Up && key != Qt::Key_Down) return QDialog::eventFilter(watched, event);
         bind.Act([&] { form.WalkList(key == Qt::Key_Up ? -1 : 1); });
         return true;
     }

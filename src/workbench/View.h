@@ -1,4 +1,5 @@
-// What all windows over a form have in common. A view only binds: what may happen, and when, is the form's matter.
+// What all windows over a form have in common. A view only binds: what may happen, and when, is the form's
+// matter.
 #pragma once
 #include "workbench/Bindings.h"
 
@@ -38,8 +39,7 @@ public:
         controls.setupUi(this);
         bind.Bind(static_cast<TForm&>(form));
         bind.Always([this] {
-            if (this->windowTitle() != Q(form.caption))
-                this->setWindowTitle(Q(form.caption));
+            if (this->windowTitle() != Q(form.caption)) this->setWindowTitle(Q(form.caption));
         });
     }
     // Escape and the window's own closing button; virtual in QDialog.
@@ -48,13 +48,11 @@ public:
 protected:
     void moveEvent(QMoveEvent* event) override {
         Base::moveEvent(event);
-        if (this->isVisible())
-            Moved();
+        if (this->isVisible()) Moved();
     }
     void resizeEvent(QResizeEvent* event) override {
         Base::resizeEvent(event);
-        if (this->isVisible())
-            Moved();
+        if (this->isVisible()) Moved();
     }
     void closeEvent(QCloseEvent* event) override {
         event->ignore();

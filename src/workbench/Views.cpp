@@ -18,9 +18,8 @@ namespace {
 using Make = View* (*)(TForm&, Ui&, QWidget*);
 
 template <class Form, View* (*make)(Form&, Ui&, QWidget*)> std::pair<const std::type_index, Make> Entry() {
-    return {typeid(Form), [](TForm& form, Ui& ui, QWidget* parent) {
-                return make(static_cast<Form&>(form), ui, parent);
-            }};
+    return {typeid(Form),
+            [](TForm& form, Ui& ui, QWidget* parent) { return make(static_cast<Form&>(form), ui, parent); }};
 }
 
 } // namespace

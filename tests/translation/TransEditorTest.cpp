@@ -32,8 +32,7 @@ struct Desk {
         RegisterGlottaClasses();
         FakeModule& module = ide.OpenForm("/p/Unit1.pas", "Form1", Form);
         for (TComponent* component : module.form->Root().Components())
-            if (auto* found = dynamic_cast<TgxCustomLang*>(component))
-                glotta = found;
+            if (auto* found = dynamic_cast<TgxCustomLang*>(component)) glotta = found;
         glotta->AddString("IDS_1", "One");
         glotta->AddString("IDS_2", "Two\nlines");
     }
@@ -41,8 +40,7 @@ struct Desk {
     bool Edit(const std::function<void(TfrmTransEditor&)>& use, bool ok = true) {
         ui.Modal<TfrmTransEditor>([=](TfrmTransEditor& form) {
             use(form);
-            if (ok && form.modalResult == ModalResult::None)
-                form.btOK.Execute();
+            if (ok && form.modalResult == ModalResult::None) form.btOK.Execute();
             return ModalResult::Cancel;
         });
         return dialog.TransEditorDlg(*glotta, TransEditorPlace{stStrings, 0});
@@ -75,7 +73,8 @@ TEST(TransEditor, CollectsTheFormsTextsAndGivesThemBackUnlessOk) {
     Desk desk;
     const auto look = [](TfrmTransEditor& form) {
         EXPECT_EQ(Shown(form), "Captions 2/4; Hints 1/2; Strings 2/4; German (2 missing): *IDS_1 IDS_2 ");
-        EXPECT_EQ(form.StatusTexts(), (std::array<std::string, 2>{"Texts: 2 of 2", "German: 5 untranslated"}));
+        EXPECT_EQ(form.StatusTexts(),
+                  (std::array<std::string, 2>{"Texts: 2 of 2", "German: 5 untranslated"}));
     };
     EXPECT_FALSE(desk.Edit(look, false));
     EXPECT_EQ(desk.Records(stCaptions), "");
@@ -102,7 +101,8 @@ TEST(TransEditor, TypedTextsReachTheRecordWithTheLineEndsOfTheFirstLanguage) {
 TEST(TransEditor, FiltersFindsAndReachesWhatIsMissing) {
     Desk desk;
     desk.Edit([&](TfrmTransEditor& form) {
-        desk.ui.Message("\"nowhere\" was not found.").Message("The texts without translation are hidden by the filter.");
+        desk.ui.Message("\"nowhere\" was not found.")
+            .Message("The texts without translation are hidden by the filter.");
         form.edFilter.Enter("LINES");
         EXPECT_EQ(Shown(form).substr(Shown(form).find(": ") + 2), "*IDS_2 ");
         form.edFilter.Enter("");
@@ -134,9 +134,10 @@ TEST(TransEditor, FiltersFindsAndReachesWhatIsMissing) {
 }
 
 TEST(TransEditor, CopiesTheFirstLanguageAndAsksBeforeItReplaces) {
-    for (const auto& [answer, expected] : {std::pair(ModalResult::Yes, "IDS_1|One|One|;IDS_2|Two\nlines|Two\nlines|;"),
-                                           std::pair(ModalResult::No, "IDS_1|One|Eins|;IDS_2|Two\nlines|Two\nlines|;"),
-                                           std::pair(ModalResult::Cancel, "IDS_1|One|Eins|;IDS_2|Two\nlines||;")}) {
+    for (const auto& [answer, expected] :
+         {std::pair(ModalResult::Yes, "IDS_1|One|One|;IDS_2|Two\nlines|Two\nlines|;"),
+          std::pair(ModalResult::No, "IDS_1|One|Eins|;IDS_2|Two\nlines|Two\nlines|;"),
+          std::pair(ModalResult::Cancel, "IDS_1|One|Eins|;IDS_2|Two\nlines||;")}) {
         Desk desk;
         desk.Edit([&, answer = answer](TfrmTransEditor& form) {
             form.sgTexts.Enter(0, 2, "Eins");
@@ -153,7 +154,8 @@ TEST(TransEditor, CopiesTheFirstLanguageAndAsksBeforeItReplaces) {
 TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
     Desk desk;
     const std::string unchanged = "Source code that uses \"IDS_1\" is not changed. Rename the identifier?";
-    const std::string unusable = "An identifier shall not be empty and shall not contain quotes or control characters!";
+    const std::string unusable =
+        "An identifier shall not be empty and shall not contain quotes or control characters!";
     const auto rename = [&](const char* id) {
         return [&, id](TfrmTransEditor& form) {
             desk.ui.Input("New identifier:", id);
@@ -162,10 +164,13 @@ TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
     };
     desk.Edit([](TfrmTransEditor&) {});
     for (const char* id : {" ", "a'b", "a\x01"}) {
-        desk.ui.Modal<TfrmTransEditor>([&](TfrmTransEditor& form) {
-            form.acRenameID.Execute();
-            return ModalResult::OK;
-        }).Input("New identifier:", id).Message(unusable);
+        desk.ui
+            .Modal<TfrmTransEditor>([&](TfrmTransEditor& form) {
+                form.acRenameID.Execute();
+                return ModalResult::OK;
+            })
+            .Input("New identifier:", id)
+            .Message(unusable);
         EXPECT_FALSE(desk.dialog.TransEditorDlg(*desk.glotta, TransEditorPlace{stStrings, 0}));
     }
     EXPECT_FALSE(desk.Edit([&](TfrmTransEditor& form) {
@@ -180,7 +185,9 @@ TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
         EXPECT_TRUE(form.sgTexts.Enter(0, 0, "IDS_9"));
     }));
     std::string log;
-    desk.dialog.OnChangeStrID = [&](const std::string& before, const std::string& id) { log += before + ">" + id + ";"; };
+    desk.dialog.OnChangeStrID = [&](const std::string& before, const std::string& id) {
+        log += before + ">" + id + ";";
+    };
     desk.dialog.NavigateToSource = [&](const std::string& id, bool) {
         log += "show " + id + ";";
         return id == "IDS_2";

@@ -50,8 +50,7 @@ struct ExpertDesk {
         };
         ui.AnswerInput = [this](const std::string& prompt, const std::string&) -> std::optional<std::string> {
             messages += prompt + "\n";
-            if (inputs.empty())
-                return {};
+            if (inputs.empty()) return {};
             auto answer = inputs.front();
             inputs.pop_front();
             return answer;
@@ -64,13 +63,13 @@ struct ExpertDesk {
                 uses.pop_front();
                 use(form, window);
             }
-            if (form.modalResult == ModalResult::None)
-                form.Close(ui, ModalResult::Cancel);
+            if (form.modalResult == ModalResult::None) form.Close(ui, ModalResult::Cancel);
         };
         host.resize(900, 200);
         host.show();
         ide.OpenProject((folder / project).string());
-        expert = ExpRegister({ide.Services(), ui, registry, helper, launcher, automation, &editor}).lock().get();
+        expert =
+            ExpRegister({ide.Services(), ui, registry, helper, launcher, automation, &editor}).lock().get();
     }
     ~ExpertDesk() {
         Unload();
@@ -98,11 +97,9 @@ struct ExpertDesk {
     // The action with this caption, in menus at any depth.
     static QAction* Find(const QList<QAction*>& actions, const char* caption) {
         for (QAction* action : actions) {
-            if (action->text() == caption)
-                return action;
+            if (action->text() == caption) return action;
             if (action->menu())
-                if (QAction* below = Find(action->menu()->actions(), caption))
-                    return below;
+                if (QAction* below = Find(action->menu()->actions(), caption)) return below;
         }
         return nullptr;
     }
@@ -138,8 +135,7 @@ struct ExpertDesk {
     }
     static int RowWith(const GridView& grid, int column, const char* text) {
         for (int row = 0; row < grid.model()->rowCount(); ++row)
-            if (grid.model()->index(row, column).data().toString() == text)
-                return row;
+            if (grid.model()->index(row, column).data().toString() == text) return row;
         ADD_FAILURE() << "no row " << text;
         return 0;
     }

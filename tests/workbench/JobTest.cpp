@@ -31,7 +31,9 @@ struct Job : ExpertDesk {
     using ExpertDesk::ExpertDesk;
 
     QMenuBar& Menu() { return *OpenedMain().findChild<QMenuBar*>("MainMenu"); }
-    QWidget& OpenedMain() { return expert->MainWindow() ? *ui.WindowOf(*expert->MainWindow()) : OpenMainWindow(); }
+    QWidget& OpenedMain() {
+        return expert->MainWindow() ? *ui.WindowOf(*expert->MainWindow()) : OpenMainWindow();
+    }
     void SelectForm(const char* form) {
         GridView& list = Grid(OpenedMain(), "lvFormNames");
         ClickCell(list, RowWith(list, 0, form), 0);
@@ -45,11 +47,9 @@ struct Job : ExpertDesk {
             for (int row = 0; row < grid.model()->rowCount(); ++row)
                 if (grid.Grid()->Look(std::size_t(row)) == RowLook::Noted)
                     ClickCell(grid, row, 2, Qt::ControlModifier);
-            if (grid.Grid()->SelectedCount() > 0)
-                QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);
+            if (grid.Grid()->SelectedCount() > 0) QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);
             EXPECT_EQ(grid.Grid()->SelectedCount(), 0u);
-            if (use)
-                use(grid, window);
+            if (use) use(grid, window);
             Trigger(window, "Modify Source");
         });
     }
@@ -68,7 +68,8 @@ struct Job : ExpertDesk {
         Files changed = FilesIn(folder.Path());
         std::erase_if(changed, [&](const auto& file) {
             const auto old = before.find(file.first);
-            return file.first.starts_with("settings.reg") || (old != before.end() && old->second == file.second);
+            return file.first.starts_with("settings.reg") ||
+                   (old != before.end() && old->second == file.second);
         });
         const Files expected = FilesIn(fs::path(GLOTTA_SOURCE_DIR) / "tests/workbench/data" / name);
         std::string names, expectedNames;
@@ -153,13 +154,15 @@ TEST(Job, CppBuilderForm) {
     job.ExpectFiles("cbuilder/AlarmClock", "cbuilder");
 }
 
-// Opens, scans, cancels, rewrites, undoes, unloads and loads again: nothing changes on disk, nothing stays behind.
+// Opens, scans, cancels, rewrites, undoes, unloads and loads again: nothing changes on disk, nothing stays
+// behind.
 TEST(Job, UndoneAndUnloaded) {
     Job job;
     job.SelectForm("MainForm");
     job.uses.push_back([](TForm&, QWidget&) {}); // cancelled
     job.Trigger(job.Menu(), "&With form...");
-    auto& source = dynamic_cast<PlainModule&>(*job.ide.FindModule((job.folder / "Main.pas").string())).Source();
+    auto& source =
+        dynamic_cast<PlainModule&>(*job.ide.FindModule((job.folder / "Main.pas").string())).Source();
     const auto text = [&] { return source.CreateReader()->GetText(0, 1000000); };
     const std::string before = text();
     job.SelectForm("MainForm");
@@ -175,8 +178,10 @@ TEST(Job, UndoneAndUnloaded) {
     for (QWidget* window : QApplication::topLevelWidgets())
         windows += window->isVisible() && window != &job.host && !qobject_cast<QMenu*>(window);
     EXPECT_EQ(windows, 0);
-    job.expert = ExpRegister({job.ide.Services(), job.ui, job.registry, job.helper, job.launcher, job.automation,
-                              &job.editor}).lock().get();
+    job.expert = ExpRegister({job.ide.Services(), job.ui, job.registry, job.helper, job.launcher,
+                              job.automation, &job.editor})
+                     .lock()
+                     .get();
     EXPECT_TRUE(job.OpenMainWindow().isVisible());
 }
 

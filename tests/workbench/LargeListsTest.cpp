@@ -1,5 +1,5 @@
-// Lists of 20,000 rows open, sort, filter and are edited without a wait. The bounds are a person's patience, with room
-// for slow machines.
+// Lists of 20,000 rows open, sort, filter and are edited without a wait. The bounds are a person's patience,
+// with room for slow machines.
 #include "platform/RegFileStore.h"
 #include "runtime/Record.h"
 #include "scanner/SourceFlavour.h"
@@ -28,8 +28,7 @@ void Expect(const char* what, double bound, const std::function<void()>& act) {
     const double taken = Seconds(act);
     ::testing::Test::RecordProperty(what, std::to_string(taken));
     EXPECT_LT(taken, bound) << what;
-    if (!qEnvironmentVariableIsEmpty("GLOTTA_TIMES"))
-        printf("%-28s %.3f s\n", what, taken);
+    if (!qEnvironmentVariableIsEmpty("GLOTTA_TIMES")) printf("%-28s %.3f s\n", what, taken);
 }
 
 TEST(LargeLists, Review) {
@@ -51,11 +50,11 @@ TEST(LargeLists, Review) {
         row.Replacement = "Glotta1.GetText('" + row.ID + "')";
         row.Position = source.size() + 3;
         source += "  " + row.SourceText + "\r\n";
-        if (i % 3 == 0)
-            row.Note = "in a const section";
+        if (i % 3 == 0) row.Note = "in a const section";
     }
     std::vector<TgxSkippedString> skipped;
-    TfrmFound form({services, settings, registry, found, skipped, source, PascalFlavour, "Unit1", "Glotta1", nullptr});
+    TfrmFound form(
+        {services, settings, registry, found, skipped, source, PascalFlavour, "Unit1", "Glotta1", nullptr});
 
     Expect("review: open", 1.0, [&] {
         ui.Show(form);
@@ -91,14 +90,17 @@ TEST(LargeLists, Translations) {
     RegisterGlottaClasses();
     std::vector<std::string> records;
     for (int i = 0; i < Rows; ++i) {
-        std::string record = MakeRecord("IDS_" + std::to_string(i), "Text no. " + std::to_string((i * 7919) % Rows), Languages);
+        std::string record = MakeRecord("IDS_" + std::to_string(i),
+                                        "Text no. " + std::to_string((i * 7919) % Rows), Languages);
         for (int language = 2; language <= Languages; ++language)
             if (i != 15000)
-                record = WithField(record, language + 1, "Language " + std::to_string(language) + " of " + std::to_string(i));
+                record = WithField(record, language + 1,
+                                   "Language " + std::to_string(language) + " of " + std::to_string(i));
         records.push_back(record);
     }
     FakeIde ide;
-    FakeModule& module = ide.OpenForm("/p/Unit1.pas", "Form1", "object Form1: TForm1\r\n  object Glotta1: TGlotta\r\n  end\r\nend\r\n");
+    FakeModule& module = ide.OpenForm(
+        "/p/Unit1.pas", "Form1", "object Form1: TForm1\r\n  object Glotta1: TGlotta\r\n  end\r\nend\r\n");
     auto& glotta = dynamic_cast<TgxCustomLang&>(*module.form->Root().Components().front());
     glotta.SetNumberOfLanguages(Languages);
     glotta.SetStrings(stStrings, records);

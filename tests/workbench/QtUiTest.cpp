@@ -1,6 +1,6 @@
 // Questions on the screen: their kinds, captions and buttons, and what each way out means.
-#include "workbench/FileFilters.h"
 #include "workbench/QtUi.h"
+#include "workbench/FileFilters.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
@@ -27,8 +27,7 @@ std::string Ask(MsgType type, const MsgButtons& buttons, const char* press, cons
         QAbstractButton* wanted = nullptr;
         for (QAbstractButton* button : box->buttons()) {
             seen += button->text().remove('&').toStdString() + " ";
-            if (button->text().remove('&') == press)
-                wanted = button;
+            if (button->text().remove('&') == press) wanted = button;
         }
         if (wanted)
             wanted->click();
@@ -60,13 +59,15 @@ TEST(QtUi, InputBoxGivesNothingWhenCancelled) {
             QTest::keyClicks(box->findChild<QLineEdit*>(), "Ä");
             QTest::keyClick(box, ok ? Qt::Key_Return : Qt::Key_Escape);
         });
-        EXPECT_EQ(ui.InputBox("TGlotta Expert", "Start:", "10"), ok ? std::optional<std::string>("Ä") : std::nullopt);
+        EXPECT_EQ(ui.InputBox("TGlotta Expert", "Start:", "10"),
+                  ok ? std::optional<std::string>("Ä") : std::nullopt);
     }
 }
 
 TEST(QtUi, FileFilters) {
-    EXPECT_EQ(NameFilters("Text (*.txt)|*.txt|Pictures|*.png;*.jpg|All (files) (*.*)|*.*").join("; ").toStdString(),
-              "Text (*.txt); Pictures (*.png *.jpg); All (files) (*)");
+    EXPECT_EQ(
+        NameFilters("Text (*.txt)|*.txt|Pictures|*.png;*.jpg|All (files) (*.*)|*.*").join("; ").toStdString(),
+        "Text (*.txt); Pictures (*.png *.jpg); All (files) (*)");
     EXPECT_TRUE(NameFilters("").isEmpty());
 }
 

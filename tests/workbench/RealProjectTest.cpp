@@ -1,4 +1,5 @@
-// Every form of a project of one's own through every window: GLOTTA_PROJECT names the project file. Nothing is saved.
+// Every form of a project of one's own through every window: GLOTTA_PROJECT names the project file. Nothing
+// is saved.
 #include "scanner/_scan.h"
 #include "workbench/ExpertDesk.h"
 
@@ -9,8 +10,7 @@ namespace {
 
 TEST(RealProject, EveryFormInEveryWindow) {
     const std::string project = qEnvironmentVariable("GLOTTA_PROJECT").toStdString();
-    if (project.empty())
-        GTEST_SKIP() << "GLOTTA_PROJECT names no project";
+    if (project.empty()) GTEST_SKIP() << "GLOTTA_PROJECT names no project";
     ExpertDesk desk("delphi/OrderDesk", project.c_str());
     const auto start = std::chrono::steady_clock::now();
     QWidget& main = desk.OpenMainWindow();
@@ -37,7 +37,8 @@ TEST(RealProject, EveryFormInEveryWindow) {
             desk.Trigger(*main.findChild<QMenuBar*>("MainMenu"), command);
         }
     printf("%zu strings found, %zu texts; %.1f s\n%s", found, texts,
-           std::chrono::duration<double>(std::chrono::steady_clock::now() - opened).count(), desk.messages.c_str());
+           std::chrono::duration<double>(std::chrono::steady_clock::now() - opened).count(),
+           desk.messages.c_str());
     EXPECT_GT(forms, 0);
 }
 

@@ -1,4 +1,5 @@
-// Every window over a form opens and answers; with GLOTTA_PICTURES set to a folder it leaves its picture there.
+// Every window over a form opens and answers; with GLOTTA_PICTURES set to a folder it leaves its picture
+// there.
 #include "scanner/_scan.h"
 #include "settings/_expopt.h"
 #include "translation/ConfigureLanguages.h"
@@ -20,10 +21,10 @@ namespace {
 void Picture(QWidget& window, const char* name) {
     ExpertDesk::Idle();
     const QString folder = qEnvironmentVariable("GLOTTA_PICTURES");
-    if (folder.isEmpty())
-        return;
+    if (folder.isEmpty()) return;
     QDir().mkpath(folder);
-    window.grab().save(folder + "/" + qEnvironmentVariable("GLOTTA_THEME", "Light").toLower() + "-" + name + ".png");
+    window.grab().save(folder + "/" + qEnvironmentVariable("GLOTTA_THEME", "Light").toLower() + "-" + name +
+                       ".png");
 }
 
 template <class Widget> Widget& In(QWidget& window, const char* name) {
@@ -174,6 +175,13 @@ TEST(Views, LanguagesUnitsAndTranslations) {
     EXPECT_EQ(desk.messages, "");
 }
 
+QWidget* SkippedWindow() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowTitle() == "Strings Skipped by Expert")
+            return window;
+    return nullptr;
+}
+
 TEST(Views, ReviewAndSkippedStrings) {
     ExpertDesk desk;
     desk.expert->Settings().SetSkipWords(TStringList({"Order Desk"}));
@@ -200,14 +208,24 @@ TEST(Views, ReviewAndSkippedStrings) {
         QTest::keyClick(&grid, Qt::Key_Delete, Qt::ControlModifier);
         desk.Idle();
         EXPECT_EQ(grid.model()->rowCount(), rows - 1);
-        EXPECT_EQ(StatusOf(window), "Found strings: " + std::to_string(rows - 1) +
-                                        "|Deleted strings: 1|Selected rows: 0|");
+        EXPECT_EQ(StatusOf(window),
+                  "Found strings: " + std::to_string(rows - 1) + "|Deleted strings: 1|Selected rows: 0|");
         desk.Trigger(window, "Deleted");
         EXPECT_TRUE(desk.Grid(window, "sgDeleted").isVisible());
         Picture(window, "review-deleted");
         desk.ClickCell(desk.Grid(window, "sgDeleted"), 0, 0);
         desk.Trigger(window, "Restore");
         EXPECT_EQ(grid.model()->rowCount(), rows);
+        // The other window takes clicks although the review is modal.
+        desk.Trigger(window, "Excluded");
+        QWidget* const skipped = SkippedWindow();
+        ASSERT_NE(skipped, nullptr);
+        GridView& strings = desk.Grid(*skipped, "lbStrings");
+        strings.Grid()->SelectOnly(-1);
+        QTest::mouseClick(skipped->windowHandle(), Qt::LeftButton, {},
+                          strings.viewport()->mapTo(skipped, strings.visualRect(strings.Model().index(0, 0)).center()));
+        desk.Idle();
+        EXPECT_EQ(strings.Grid()->Row(), 0);
         desk.Click(window, "lbHideNotice");
         EXPECT_FALSE(In<QWidget>(window, "pnNotice").isVisible());
         EXPECT_EQ(desk.messages, "Delete selected row (IDS_3)?\n");
@@ -215,12 +233,10 @@ TEST(Views, ReviewAndSkippedStrings) {
     });
     desk.Trigger(In<QMenuBar>(main, "MainMenu"), "&With form...");
     EXPECT_EQ(desk.messages, "This will close the Found Strings form! Continue?\n");
+    EXPECT_EQ(SkippedWindow(), nullptr);
 
     desk.Trigger(In<QMenuBar>(main, "MainMenu"), "S&kipped Strings...");
-    QWidget* skipped = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible() && window->windowTitle() == "Strings Skipped by Expert")
-            skipped = window;
+    QWidget* const skipped = SkippedWindow();
     ASSERT_NE(skipped, nullptr);
     GridView& strings = desk.Grid(*skipped, "lbStrings");
     ASSERT_GT(strings.model()->rowCount(), 0);
