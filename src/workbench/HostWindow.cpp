@@ -63,6 +63,7 @@ HostWindow::~HostWindow() {
     ide_.askClose = nullptr;
     workbench_.UiPort().mainWindow = nullptr;
     workbench_.DockWindow = nullptr;
+    DockExpert(false);
     menu_.reset();
     for (const HostCommand& command : HostCommands())
         if (TMenuItem* item = ide_.Menus().MainMenu().Items.FindDeep(command.name)) item->Free();

@@ -110,6 +110,7 @@ private:
     void ToFocus(const char* slot);
     void TurnPage(int step);
     void DockExpert(bool docked);
+    void RemoveExpertDock();
     IOTAProject* ActiveProject() const;
 
     Workbench& workbench_;

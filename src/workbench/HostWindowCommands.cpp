@@ -292,12 +292,16 @@ void HostWindow::DockExpert(bool docked) {
         expertDock_->setWidget(window);
         expertDock_->show();
         window->show();
+        connect(window, &QObject::destroyed, this, [this] { RemoveExpertDock(); });
     } else if (!docked && expertDock_) {
         window->setParent(this, Qt::Window);
         window->show();
-        expertDock_->deleteLater();
-        expertDock_ = nullptr;
+        RemoveExpertDock();
     }
+}
+
+void HostWindow::RemoveExpertDock() {
+    if (expertDock_) std::exchange(expertDock_, nullptr)->deleteLater();
 }
 
 } // namespace glotta

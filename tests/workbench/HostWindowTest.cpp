@@ -15,6 +15,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
@@ -51,8 +52,10 @@ struct Desk {
         bench.UnloadExpert();
     }
     static void Idle() {
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 4; ++i) {
             QApplication::processEvents();
+            QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
     }
     UnitPage& Open(const char* unit, bool form = false) {
         window.OpenUnit(PathText(folder / unit), form);
@@ -280,6 +283,8 @@ std::string MenuText(HostWindow& window, const HostMenus& menus) {
     return text + std::to_string(menus.FormCount());
 }
 
+int Docks(const HostWindow& window) { return int(window.findChildren<QDockWidget*>().size()); }
+
 TEST(HostWindow, ExpertComesAndGoesLeavingNothing) {
     Desk desk;
     HostMenus& menus = desk.bench.Ide().Menus();
@@ -294,7 +299,13 @@ TEST(HostWindow, ExpertComesAndGoesLeavingNothing) {
         EXPECT_EQ(menus.Section("ToolsMenu")[2].Name(), "GlottaExpertMenuItem");
         desk.Click("GlottaExpertMenuItem"); // its main window
         EXPECT_TRUE(desk.bench.Expert()->MainWindow() != nullptr);
+        if (round == 1) {
+            desk.bench.Expert()->MainWindow()->Dockable1Click();
+            desk.Idle();
+            EXPECT_EQ(Docks(desk.window), 3);
+        }
         desk.Click("ComponentUnloadItem");
+        EXPECT_EQ(Docks(desk.window), 2);
         EXPECT_FALSE(desk.bench.Expert());
         desk.window.PageOf(*desk.bench.Ide().CurrentModule())->Module().Close();
         desk.Idle();
