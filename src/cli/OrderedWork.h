@@ -1,9 +1,9 @@
 // Work on all cores whose results are taken in order, as soon as each is there.
 #pragma once
 #include <algorithm>
-#include <atomic>
 #include <condition_variable>
 #include <cstddef>
+#include <deque>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -11,25 +11,38 @@
 
 namespace glotta {
 
-// Runs work(i) for i in [0, count) on all cores and take(result) here, in ascending order. work must not throw.
-// Results far ahead of what was taken are not begun, so that memory stays bounded.
-template <class Result, class Work, class Take> void InOrder(std::size_t count, Work work, Take take) {
-    constexpr std::size_t Ahead = 512;
-    std::vector<std::optional<Result>> results(count);
-    std::mutex mutex;
+// next() gives the next few items, none at the end; it is called by one thread at a time, while others work. work(item)
+// runs on all cores, and take(result) here, in the order of the items. None of the three may throw.
+// Batches far ahead of what was taken are not begun, so that memory stays bounded.
+template <class Result, class Next, class Work, class Take> void InOrder(Next next, Work work, Take take) {
+    constexpr std::size_t Ahead = 64;
+    using Batch = std::vector<Result>;
+    std::mutex source, mutex;
     std::condition_variable ready, room;
-    std::size_t next = 0, taken = 0;
+    std::deque<std::optional<Batch>> batches; // from `taken` on
+    std::size_t begun = 0, taken = 0;
+    bool ended = false;
     auto loop = [&] {
         for (;;) {
+            std::unique_lock from(source);
+            auto items = ended ? decltype(next())() : next();
             std::unique_lock lock(mutex);
-            room.wait(lock, [&] { return next >= count || next < taken + Ahead; });
-            if (next >= count)
+            if (items.empty()) {
+                ended = true;
+                ready.notify_one();
                 return;
-            std::size_t mine = next++;
+            }
+            room.wait(lock, [&] { return begun < taken + Ahead; });
+            const std::size_t mine = begun++;
+            batches.emplace_back();
             lock.unlock();
-            Result result = work(mine);
+            from.unlock();
+            Batch results;
+            results.reserve(items.size());
+            for (const auto& item : items)
+                results.push_back(work(item));
             lock.lock();
-            results[mine] = std::move(result);
+            batches[mine - taken] = std::move(results);
             if (mine == taken)
                 ready.notify_one();
         }
@@ -37,18 +50,19 @@ template <class Result, class Work, class Take> void InOrder(std::size_t count, 
     std::vector<std::jthread> threads;
     for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i)
         threads.emplace_back(loop);
-    for (std::size_t i = 0; i < count; ++i) {
+    for (;;) {
         std::unique_lock lock(mutex);
-        ready.wait(lock, [&] { return results[i].has_value(); });
-        Result result = std::move(*results[i]);
-        results[i].reset();
-        taken = i + 1;
-        room.notify_all();
+        ready.wait(lock, [&] { return batches.empty() ? ended : batches.front().has_value(); });
+        if (batches.empty())
+            return;
+        Batch results = std::move(*batches.front());
+        batches.pop_front();
+        ++taken;
+        room.notify_one();
         lock.unlock();
-        take(result);
+        for (const Result& result : results)
+            take(result);
     }
-    std::lock_guard lock(mutex);
-    room.notify_all();
 }
 
 } // namespace glotta

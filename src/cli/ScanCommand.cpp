@@ -146,15 +146,14 @@ int RunScan(const GlobalOptions& global, const ScanCommandOptions& options) {
     Session session(global, !options.noHelper);
     RegisterGlottaClasses();
     ScanRules rules(session.Settings().Values(), session.Helper());
-    std::vector<std::string> problems;
-    std::vector<UnitFile> units = FindUnits(options.paths, problems);
-    for (const std::string& problem : problems)
+    UnitFiles units(options.paths);
+    for (const std::string& problem : units.Problems())
         std::cerr << problem << "\n";
 
     ScanTotals totals;
     bool failed = false;
     Scan scan(options, rules, session.ToldEncoding());
-    InOrder<UnitResult>(units.size(), [&](std::size_t i) { return scan(units[i]); },
+    InOrder<UnitResult>([&] { return units.Next(); }, scan,
                         [&](const UnitResult& result) {
                             std::cout.write(result.text.data(), static_cast<std::streamsize>(result.text.size()));
                             totals.Add(result.totals);

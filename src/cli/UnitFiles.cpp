@@ -6,6 +6,7 @@
 #include "platform/Text.h"
 
 #include <array>
+#include <deque>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -16,46 +17,45 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::array UnitExtensions = {".pas", ".dpr", ".cpp", ".c", ".h"};
+constexpr std::size_t Few = 16;
 
 bool IsUnitExtension(const std::string& extension) {
     return std::find(UnitExtensions.begin(), UnitExtensions.end(), extension) != UnitExtensions.end();
 }
 
-class Collector {
-public:
-    explicit Collector(std::vector<std::string>& problems) : problems_(problems) {}
+std::string LowerStem(const fs::path& file) { return LowerCase(PathText(file.stem())); }
 
-    void AddFolder(const fs::path& folder) {
-        std::vector<fs::path> units;
-        // Path without extension, lower case, to the form file there.
-        std::unordered_map<std::string, fs::path> forms;
+} // namespace
+
+struct UnitFiles::Walk {
+    std::vector<std::string> problems;
+    std::deque<UnitFile> units;    // named, or found so far
+    std::vector<fs::path> folders; // to be walked, the next one last
+    std::unordered_set<fs::path::string_type> seen;
+
+    void Add(UnitFile unit) {
+        if (seen.insert(unit.file.lexically_normal().native()).second)
+            units.push_back(std::move(unit));
+    }
+
+    void AddPath(const std::string& written) {
+        fs::path path = PathFromText(written);
         std::error_code error;
-        fs::recursive_directory_iterator walk(folder, fs::directory_options::skip_permission_denied, error);
-        if (error)
-            throw Error(PathText(folder) + ": " + error.message());
-        for (; walk != fs::recursive_directory_iterator(); walk.increment(error)) {
-            std::string extension = LowerExtension(PathText(walk->path()));
-            if (IsUnitExtension(extension)) {
-                if (walk->is_regular_file(error))
-                    units.push_back(walk->path());
-            } else if (extension == ".dfm" || extension == ".xfm") {
-                forms.try_emplace(LowerCase(PathText(fs::path(walk->path()).replace_extension())), walk->path());
-            }
-        }
-        std::sort(units.begin(), units.end());
-        for (fs::path& unit : units) {
-            fs::path form;
-            if (!forms.empty())
-                if (auto found = forms.find(LowerCase(PathText(fs::path(unit).replace_extension()))); found != forms.end())
-                    form = found->second;
-            std::string shown = PathText(unit);
-            Add({std::move(unit), std::move(shown), std::move(form), {}});
-        }
+        if (!fs::exists(path, error))
+            throw Error(written + ": no such file or folder");
+        if (fs::is_directory(path, error))
+            folders.push_back(path);
+        else if (IsProjectGroupFile(path))
+            AddGroup(path);
+        else if (IsProjectFile(path))
+            AddProject(path);
+        else
+            AddUnit(path);
     }
 
     void AddProject(const fs::path& file) {
         ProjectDescription project = ReadProject(file);
-        problems_.insert(problems_.end(), project.problems.begin(), project.problems.end());
+        problems.insert(problems.end(), project.problems.begin(), project.problems.end());
         for (const ProjectEntry& entry : project.entries)
             if (!entry.missing && IsUnitExtension(LowerExtension(PathText(entry.file))))
                 Add({entry.file, PathText(entry.file.lexically_proximate(fs::current_path())), entry.formFile,
@@ -64,7 +64,7 @@ public:
 
     void AddGroup(const fs::path& file) {
         ProjectGroupDescription group = ReadProjectGroup(file);
-        problems_.insert(problems_.end(), group.problems.begin(), group.problems.end());
+        problems.insert(problems.end(), group.problems.begin(), group.problems.end());
         for (const ProjectGroupEntry& project : group.projects)
             if (!project.missing)
                 AddProject(project.file);
@@ -83,38 +83,53 @@ public:
         Add({file, PathText(file), form, {}});
     }
 
-    std::vector<UnitFile> Take() { return std::move(units_); }
-
-private:
-    void Add(UnitFile unit) {
-        if (seen_.insert(unit.file.lexically_normal().native()).second)
-            units_.push_back(std::move(unit));
+    // A folder that cannot be read has no units.
+    void AddFolder(const fs::path& folder) {
+        std::vector<fs::path> files, inner;
+        std::unordered_map<std::string, fs::path> forms; // by lower-case stem
+        std::error_code error;
+        fs::directory_iterator entry(folder, fs::directory_options::skip_permission_denied, error);
+        for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+            std::error_code ignored;
+            std::string extension = LowerExtension(PathText(entry->path()));
+            if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
+                inner.push_back(entry->path());
+            else if (IsUnitExtension(extension) && entry->is_regular_file(ignored))
+                files.push_back(entry->path());
+            else if (extension == ".dfm" || extension == ".xfm")
+                forms.try_emplace(LowerStem(entry->path()), entry->path());
+        }
+        std::sort(files.begin(), files.end());
+        for (fs::path& file : files) {
+            auto form = forms.empty() ? forms.end() : forms.find(LowerStem(file));
+            std::string shown = PathText(file);
+            Add({std::move(file), std::move(shown), form == forms.end() ? fs::path() : form->second, {}});
+        }
+        std::sort(inner.rbegin(), inner.rend());
+        std::move(inner.begin(), inner.end(), std::back_inserter(folders));
     }
-
-    std::vector<std::string>& problems_;
-    std::vector<UnitFile> units_;
-    std::unordered_set<fs::path::string_type> seen_;
 };
 
-} // namespace
+UnitFiles::UnitFiles(const std::vector<std::string>& paths) : walk_(std::make_unique<Walk>()) {
+    for (const std::string& path : paths)
+        walk_->AddPath(path);
+    std::reverse(walk_->folders.begin(), walk_->folders.end());
+}
 
-std::vector<UnitFile> FindUnits(const std::vector<std::string>& paths, std::vector<std::string>& problems) {
-    Collector collector(problems);
-    for (const std::string& written : paths) {
-        fs::path path = PathFromText(written);
-        std::error_code error;
-        if (!fs::exists(path, error))
-            throw Error(written + ": no such file or folder");
-        if (fs::is_directory(path, error))
-            collector.AddFolder(path);
-        else if (IsProjectGroupFile(path))
-            collector.AddGroup(path);
-        else if (IsProjectFile(path))
-            collector.AddProject(path);
-        else
-            collector.AddUnit(path);
+UnitFiles::~UnitFiles() = default;
+
+const std::vector<std::string>& UnitFiles::Problems() const { return walk_->problems; }
+
+std::vector<UnitFile> UnitFiles::Next() {
+    while (walk_->units.size() < Few && !walk_->folders.empty()) {
+        fs::path folder = std::move(walk_->folders.back());
+        walk_->folders.pop_back();
+        walk_->AddFolder(folder);
     }
-    return collector.Take();
+    std::vector<UnitFile> next;
+    for (; !walk_->units.empty() && next.size() < Few; walk_->units.pop_front())
+        next.push_back(std::move(walk_->units.front()));
+    return next;
 }
 
 } // namespace glotta

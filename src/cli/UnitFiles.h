@@ -1,6 +1,7 @@
 // Which units a command line's paths name.
 #pragma once
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,8 +15,22 @@ struct UnitFile {
     std::optional<unsigned> codePage; // the project's hint
 };
 
-// Units (any file), folders (all their .pas .dpr .cpp .c .h, at any depth) and projects or groups (their units).
-// What a project lists but the disk lacks is reported in `problems`. Throws Error for a path that does not exist.
-std::vector<UnitFile> FindUnits(const std::vector<std::string>& paths, std::vector<std::string>& problems);
+// Units (any file), folders (all their .pas .dpr .cpp .c .h, at any depth: a folder's own before those of the folders
+// in it) and projects or groups (their units), each unit once. Folders are walked as the units are asked for.
+class UnitFiles {
+public:
+    // Throws Error for a path that does not exist and a project that cannot be read.
+    explicit UnitFiles(const std::vector<std::string>& paths);
+    ~UnitFiles();
+
+    // What a project lists but the disk lacks.
+    const std::vector<std::string>& Problems() const;
+    // The next few units; none at the end.
+    std::vector<UnitFile> Next();
+
+private:
+    struct Walk;
+    std::unique_ptr<Walk> walk_;
+};
 
 } // namespace glotta

@@ -48,6 +48,7 @@ template <class Module> Module& PlainIde::Adopt(std::unique_ptr<Module> module) 
         byFile_.emplace(FileKey(path), &result);
     if constexpr (std::is_same_v<Module, PlainModule>)
         if (result.Form()) byForm_.emplace(result.Name(), &result);
+    if constexpr (!std::is_same_v<Module, PlainModule>) projects_.push_back(&result);
     modules_.push_back({std::move(module), &result});
     return result;
 }
@@ -69,10 +70,10 @@ IOTAModule& PlainIde::OpenedProject(IOTAModule& project) {
 
 std::vector<PlainProject*> PlainIde::Projects() {
     std::vector<PlainProject*> projects;
-    for (const Entry& entry : modules_) {
-        if (auto* project = dynamic_cast<PlainProject*>(entry.module.get())) {
+    for (IOTAModule* module : projects_) {
+        if (auto* project = dynamic_cast<PlainProject*>(module)) {
             projects.push_back(project);
-        } else if (auto* group = dynamic_cast<PlainProjectGroup*>(entry.module.get())) {
+        } else if (auto* group = dynamic_cast<PlainProjectGroup*>(module)) {
             group->ActiveProject();
             for (PlainProject* loaded : group->LoadedProjects())
                 projects.push_back(loaded);
@@ -171,8 +172,8 @@ IOTAModule* PlainIde::FindModule(const std::string& fileName) {
     const std::string key = FileKey(OnDisk(fileName));
     if (const auto found = byFile_.find(key); found != byFile_.end()) return found->second;
     // Projects of a group are read when they are needed, so their files are not in the table.
-    for (const Entry& entry : modules_)
-        if (auto* group = dynamic_cast<PlainProjectGroup*>(entry.module.get()))
+    for (IOTAModule* module : projects_)
+        if (auto* group = dynamic_cast<PlainProjectGroup*>(module))
             for (PlainProject* project : group->LoadedProjects())
                 for (const fs::path& path : project->Paths())
                     if (FileKey(path) == key) return project;
@@ -297,6 +298,7 @@ void PlainIde::Forget(IOTAModule& module) {
     if (auto* unit = dynamic_cast<PlainModule*>(&module)) unit->TellDestroyed();
     std::erase(shown_, &module);
     std::erase_if(byFile_, [&](const auto& item) { return item.second == &module; });
+    std::erase(projects_, &module);
     std::erase_if(byForm_, [&](const auto& item) { return item.second == &module; });
     std::erase_if(modules_, [&](const Entry& entry) { return entry.module.get() == &module; });
 }

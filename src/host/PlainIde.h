@@ -115,6 +115,7 @@ private:
     FileStore files_;
     std::optional<Encoding> told_;
     std::vector<Entry> modules_;
+    std::vector<IOTAModule*> projects_; // those of them that are projects or groups
     std::unordered_map<std::string, IOTAModule*> byFile_; // every file of every open module, by FileKey
     std::unordered_map<std::string, PlainModule*, TextHash, TextEqual> byForm_; // by the name at the last look-up
     std::vector<IOTAModule*> shown_;                      // the one in front last
