@@ -210,6 +210,7 @@ QString CodeEditor::WordOrSelection() const {
 }
 
 void CodeEditor::contextMenuEvent(QContextMenuEvent* event) {
+    TellPlaces(); // the control tells them itself only when it paints
     if (OnPopup) OnPopup(event->globalPos());
 }
 

@@ -71,6 +71,7 @@ public:
     void ReloadProjectClick();
     void LoadExpertClick();
     void UnloadExpertClick();
+    void HelpClick();
     void AboutClick();
 
     bool HasProject() const { return project_ != nullptr; }

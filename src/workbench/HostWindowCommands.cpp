@@ -7,6 +7,7 @@
 #include "workbench/CodeEditor.h"
 #include "workbench/FindBar.h"
 #include "workbench/FormPage.h"
+#include "workbench/HelpWindow.h"
 #include "workbench/ProjectTree.h"
 #include "workbench/QtText.h"
 #include "workbench/UnitPage.h"
@@ -263,6 +264,10 @@ void HostWindow::ToggleFormClick() {
 
 void HostWindow::TurnPage(int step) {
     if (tabs_->count() > 0) tabs_->setCurrentIndex((tabs_->currentIndex() + step + tabs_->count()) % tabs_->count());
+}
+
+void HostWindow::HelpClick() {
+    ShowHelp(MainWindowHelp, *this);
 }
 
 void HostWindow::AboutClick() {

@@ -2,12 +2,14 @@
 
 #include "platform/Error.h"
 #include "workbench/FileFilters.h"
+#include "workbench/HelpWindow.h"
 #include "workbench/ProgressWindow.h"
 #include "workbench/Views.h"
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtGui/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
@@ -139,9 +141,17 @@ bool QtUi::Execute(FileDialog& dialog) {
 View& QtUi::Open(TForm& form, bool modal) {
     // Over a modal window a window is its child, for all others wait until that is closed.
     QWidget* const parent = modal || QApplication::activeModalWidget() ? Parent() : mainWindow;
+    const auto showHelp = [this, &form](std::string_view at) { ShowHelp(at, *WindowOf(form)); };
+    const std::string_view help = OfferHelp(form, showHelp); // the view asks whether there is help
     View* const view = MakeView(form, *this, parent);
     if (!view) throw Error(std::string("No window for ") + typeid(form).name());
     views_[&form] = view;
+    if (!help.empty()) {
+        auto* key = new QAction(&view->Window());
+        key->setShortcut(QKeySequence::HelpContents);
+        QObject::connect(key, &QAction::triggered, key, [showHelp, help] { showHelp(help); });
+        view->Window().addAction(key);
+    }
     form.OnGone = [this, &form] { Closed(form, true); };
     return *view;
 }

@@ -1,6 +1,7 @@
 #include "workbench/Workbench.h"
 
 #include "expert/Glottaexp.h"
+#include "workbench/HelpWindow.h"
 
 namespace glotta {
 
@@ -13,6 +14,9 @@ void Workbench::LoadExpert() {
     if (Expert()) return;
     ExpertPorts ports{ide_->Services(), ui_, *registry_, helper_, *launcher_, *automation_};
     ports.transEditor = &transEditor_;
+    ports.ShowHelp = [this] {
+        if (const auto expert = Expert()) ShowHelp(MainWindowHelp, *ui_.WindowOf(*expert->MainWindow()));
+    };
     if (DockWindow) ports.DockWindow = DockWindow;
     expert_ = ExpRegister(std::move(ports));
 }

@@ -22,28 +22,16 @@
 
 namespace glotta {
 
-// A message that comes up is answered by the first button's meaning, and noted.
-struct ExpertDesk {
-    TempFolder folder;
-    QtUi ui;
-    RegFileStore registry{folder / "settings.reg"};
-    HelperLibrary helper;
-    FakeLauncher launcher;
-    FakeAutomation automation;
-    TransEditorDialog editor{ui};
-    PlainIde ide;
-    QMainWindow host;
-    MenuAdapter menus{*host.menuBar(), ide.Menus().MainMenu()};
-    TGlottaExpert* expert = nullptr;
-
+// What a person does with mouse and keyboard. A message that comes up is answered by the first button's
+// meaning, and noted.
+struct Hands {
     std::string messages;
     std::deque<std::optional<std::string>> inputs;
     // What a person does in the modal windows that come up, in this order.
     std::deque<std::function<void(TForm&, QWidget&)>> uses;
 
-    explicit ExpertDesk(const char* sample = "delphi/OrderDesk", const char* project = "OrderDesk.dpr") {
-        CopySample(folder, sample);
-        ui.mainWindow = &host;
+    ~Hands() { EXPECT_TRUE(uses.empty()) << "a window did not come up"; }
+    void Take(QtUi& ui) {
         ui.AnswerMessage = [this](const std::string& text, const MsgButtons& buttons) {
             messages += text + "\n";
             return std::optional(buttons.front());
@@ -55,7 +43,7 @@ struct ExpertDesk {
             inputs.pop_front();
             return answer;
         };
-        ui.UseModal = [this](TForm& form, QWidget& window) {
+        ui.UseModal = [this, &ui](TForm& form, QWidget& window) {
             if (uses.empty()) {
                 ADD_FAILURE() << "unexpected: " << form.caption;
             } else {
@@ -65,34 +53,12 @@ struct ExpertDesk {
             }
             if (form.modalResult == ModalResult::None) form.Close(ui, ModalResult::Cancel);
         };
-        host.resize(900, 200);
-        host.show();
-        ide.OpenProject((folder / project).string());
-        expert =
-            ExpRegister({ide.Services(), ui, registry, helper, launcher, automation, &editor}).lock().get();
-    }
-    ~ExpertDesk() {
-        Unload();
-        EXPECT_TRUE(uses.empty()) << "a window did not come up";
-    }
-    void Unload() {
-        ide.PackageWizards().UnloadAll();
-        expert = nullptr;
-        Idle();
     }
 
     static void Idle() {
         for (int i = 0; i < 5; ++i)
             QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    // By the host's menu, as a person does.
-    QWidget& OpenMainWindow() {
-        menus.Refresh();
-        Trigger(*host.menuBar(), "TG&lotta Expert");
-        QWidget* const window = ui.WindowOf(*expert->MainWindow());
-        EXPECT_NE(window, nullptr);
-        return *window;
     }
     // The action with this caption, in menus at any depth.
     static QAction* Find(const QList<QAction*>& actions, const char* caption) {
@@ -138,6 +104,44 @@ struct ExpertDesk {
             if (grid.model()->index(row, column).data().toString() == text) return row;
         ADD_FAILURE() << "no row " << text;
         return 0;
+    }
+};
+
+// In a host of nothing but a menu.
+struct ExpertDesk : Hands {
+    TempFolder folder;
+    QtUi ui;
+    RegFileStore registry{folder / "settings.reg"};
+    HelperLibrary helper;
+    FakeLauncher launcher;
+    FakeAutomation automation;
+    TransEditorDialog editor{ui};
+    PlainIde ide;
+    QMainWindow host;
+    MenuAdapter menus{*host.menuBar(), ide.Menus().MainMenu()};
+    TGlottaExpert* expert = nullptr;
+
+    explicit ExpertDesk(const char* sample = "delphi/OrderDesk", const char* project = "OrderDesk.dpr") {
+        CopySample(folder, sample);
+        Take(ui);
+        ui.mainWindow = &host;
+        host.resize(900, 200);
+        host.show();
+        ide.OpenProject((folder / project).string());
+        expert =
+            ExpRegister({ide.Services(), ui, registry, helper, launcher, automation, &editor}).lock().get();
+    }
+    ~ExpertDesk() {
+        ide.PackageWizards().UnloadAll();
+        Idle();
+    }
+    // By the host's menu, as a person does.
+    QWidget& OpenMainWindow() {
+        menus.Refresh();
+        Trigger(*host.menuBar(), "TG&lotta Expert");
+        QWidget* const window = ui.WindowOf(*expert->MainWindow());
+        EXPECT_NE(window, nullptr);
+        return *window;
     }
 };
 

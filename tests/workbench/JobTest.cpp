@@ -1,8 +1,14 @@
 // The main job by mouse and keyboard: after it the files on disk are what is expected in data/<case>.
 #include "scanner/_scan.h"
 #include "translation/TranslUnits.h"
+#include "workbench/CodeEditor.h"
 #include "workbench/ExpertDesk.h"
+#include "workbench/HostWindow.h"
+#include "workbench/QtText.h"
 
+#include <QtCore/QTimer>
+#include <QtGui/QContextMenuEvent>
+#include <QtWidgets/QMenu>
 #include <fstream>
 #include <iterator>
 
@@ -27,12 +33,61 @@ Files FilesIn(const fs::path& folder) {
     return files;
 }
 
-struct Job : ExpertDesk {
-    using ExpertDesk::ExpertDesk;
+// In the host's own window, from opening the project to saving all.
+struct Job : Hands {
+    TempFolder folder;
+    Workbench bench{folder / "settings.reg"};
+    HostWindow host{bench};
 
-    QMenuBar& Menu() { return *OpenedMain().findChild<QMenuBar*>("MainMenu"); }
+    explicit Job(const char* sample = "delphi/OrderDesk", const char* project = "OrderDesk.dpr") {
+        CopySample(folder, sample);
+        Take(bench.UiPort());
+        bench.UiPort().AnswerFiles = [this, project](FileDialog& dialog) {
+            dialog.files = {PathText(folder / project)};
+            return true;
+        };
+        host.show();
+        Command("&Load TGlotta Expert");
+        Command("&Open Project...");
+    }
+    ~Job() {
+        host.CloseProject();
+        bench.UnloadExpert();
+        Idle();
+    }
+    // By the host's menu.
+    void Command(const char* caption) {
+        host.Menu().Refresh();
+        Trigger(*host.menuBar(), caption);
+    }
     QWidget& OpenedMain() {
-        return expert->MainWindow() ? *ui.WindowOf(*expert->MainWindow()) : OpenMainWindow();
+        if (!bench.Expert()->MainWindow()) Command("TG&lotta Expert");
+        return *bench.UiPort().WindowOf(*bench.Expert()->MainWindow());
+    }
+    QMenuBar& Menu() { return *OpenedMain().findChild<QMenuBar*>("MainMenu"); }
+    CodeEditor& Code(const char* unit) {
+        host.OpenUnit(PathText(folder / unit));
+        Idle();
+        return *host.Code();
+    }
+    // From the expert's submenu of the code editor's context menu.
+    void Choose(CodeEditor& code, const char* caption) {
+        bool chosen = false;
+        QTimer::singleShot(0, &host, [&] {
+            QWidget* popup = QApplication::activePopupWidget();
+            QAction* expert = popup ? Find(popup->actions(), "TGlotta Expert") : nullptr;
+            if (expert) {
+                expert->menu()->popup(popup->geometry().topRight()); // its commands are enabled now
+                QAction* command = Find(expert->menu()->actions(), caption);
+                if (command && (chosen = command->isEnabled())) command->trigger();
+                expert->menu()->close();
+            }
+            if (popup) popup->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {}, code.mapToGlobal(QPoint()));
+        QApplication::sendEvent(code.viewport(), &event);
+        Idle();
+        EXPECT_TRUE(chosen) << caption;
     }
     void SelectForm(const char* form) {
         GridView& list = Grid(OpenedMain(), "lvFormNames");
@@ -63,7 +118,7 @@ struct Job : ExpertDesk {
     }
     // Saves all and compares what differs from the sample with data/<name>.
     void ExpectFiles(const char* sample, const char* name) {
-        ide.SaveAll();
+        Command("Sa&ve All");
         const Files before = FilesIn(PathFromText(GLOTTA_SOURCE_DIR) / "samples" / sample);
         Files changed = FilesIn(folder.Path());
         std::erase_if(changed, [&](const auto& file) {
@@ -131,18 +186,11 @@ TEST(Job, ConstSection) {
 
 TEST(Job, SelectionFromTheEditor) {
     Job job;
-    HostEditWindow& window = job.ide.Menus().AddEditWindow();
-    job.OpenMainWindow();
-    ASSERT_TRUE(job.ide.OpenFile((job.folder / "Main.pas").string()));
-    IOTASourceEditor* source = job.expert->Services().GetCurrentSourceEditor();
-    ASSERT_NE(source, nullptr);
-    source->View().SetBlock({70, 1}, {73, 1});
+    job.OpenedMain();
+    CodeEditor& code = job.Code("Main.pas");
+    code.setSelection(69, 0, 72, 0);
     job.Review();
-    TMenuItem* menu = window.EditorLocalMenu.Items.FindCaption("TGlotta Expert");
-    ASSERT_NE(menu, nullptr);
-    menu->Click();
-    menu->FindCaption("Scan selected source...")->Click();
-    job.Idle();
+    job.Choose(code, "Scan selected source...");
     job.ExpectFiles(OrderDesk, "selection");
 }
 
@@ -161,28 +209,23 @@ TEST(Job, UndoneAndUnloaded) {
     job.SelectForm("MainForm");
     job.uses.push_back([](TForm&, QWidget&) {}); // cancelled
     job.Trigger(job.Menu(), "&With form...");
-    auto& source =
-        dynamic_cast<PlainModule&>(*job.ide.FindModule((job.folder / "Main.pas").string())).Source();
-    const auto text = [&] { return source.CreateReader()->GetText(0, 1000000); };
+    const auto text = [&] { return S(job.Code("Main.pas").text()); };
     const std::string before = text();
     job.SelectForm("MainForm");
     job.Review();
     job.Trigger(job.Menu(), "&With form...");
     EXPECT_NE(text(), before);
-    EXPECT_TRUE(source.Undo());
+    job.Command("&Undo");
     EXPECT_EQ(text(), before);
-    job.Unload();
-    job.menus.Refresh();
+    job.Command("&Unload TGlotta Expert");
+    job.host.Menu().Refresh();
     EXPECT_EQ(job.Find(job.host.menuBar()->actions(), "TG&lotta Expert"), nullptr);
     int windows = 0;
     for (QWidget* window : QApplication::topLevelWidgets())
         windows += window->isVisible() && window != &job.host && !qobject_cast<QMenu*>(window);
     EXPECT_EQ(windows, 0);
-    job.expert = ExpRegister({job.ide.Services(), job.ui, job.registry, job.helper, job.launcher,
-                              job.automation, &job.editor})
-                     .lock()
-                     .get();
-    EXPECT_TRUE(job.OpenMainWindow().isVisible());
+    job.Command("&Load TGlotta Expert");
+    EXPECT_TRUE(job.OpenedMain().isVisible());
 }
 
 } // namespace
