@@ -10,6 +10,7 @@ struct SCNotification;
 namespace glotta {
 
 class CodeEditor : public QsciScintilla {
+    Q_OBJECT
 public:
     CodeEditor(PlainSourceEditor& source, QWidget* parent);
     ~CodeEditor() override;

@@ -11,6 +11,7 @@
 namespace glotta {
 
 class GridView : public QTableView {
+    Q_OBJECT
 public:
     explicit GridView(QWidget* parent = nullptr);
     ~GridView() override;

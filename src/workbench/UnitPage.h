@@ -11,6 +11,7 @@ class CodeEditor;
 class FormPage;
 
 class UnitPage : public QTabWidget {
+    Q_OBJECT // it is told from other tab widgets
 public:
     using Run = std::function<void(const std::function<void()>&)>;
     UnitPage(IOTAModule& module, Run run, QWidget* parent);
