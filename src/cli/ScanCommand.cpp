@@ -28,7 +28,11 @@ struct ComponentInForm {
 };
 
 // The class names of localization components share a stem, in text and binary forms alike: most forms need no parse.
-bool MayHoldComponent(std::string_view bytes) { return bytes.find("lotta") != std::string_view::npos; }
+bool MayHoldComponent(std::string_view bytes) {
+    static constexpr std::string_view stem = "Glotta";
+    static const std::boyer_moore_horspool_searcher searcher(stem.begin(), stem.end());
+    return std::search(bytes.begin(), bytes.end(), searcher) != bytes.end();
+}
 
 ComponentInForm ReadComponent(const UnitFile& unit) {
     ComponentInForm result;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::array UnitExtensions = {".pas", ".dpr", ".cpp", ".c", ".h"};
-constexpr std::size_t Few = 16;
+constexpr std::size_t Few = 48;
 
 bool IsUnitExtension(const std::string& extension) {
     return std::find(UnitExtensions.begin(), UnitExtensions.end(), extension) != UnitExtensions.end();

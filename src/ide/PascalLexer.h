@@ -156,15 +156,21 @@ public:
             p = RareEnd(p, kind);
         }
         p_ = p;
-        token = {kind, Offset(start), Offset(p)};
+        Put(token, kind, Offset(start), Offset(p));
         if (kind == TokenKind::Directive)
             FollowBranch(token);
         else if (kind != TokenKind::Comment)
-            last_ = token;
+            Put(last_, kind, Offset(start), Offset(p));
         return true;
     }
 
 private:
+    // Field by field: a copy of the whole would wait for the stores of its parts, at every token.
+    static void Put(Token& token, TokenKind kind, std::uint32_t begin, std::uint32_t end) {
+        token.kind = kind;
+        token.begin = begin;
+        token.end = end;
+    }
     std::uint32_t Offset(const char* p) const { return static_cast<std::uint32_t>(p - begin_); }
     const char* WordEnd(const char* p) const {
         while (p < end_ && IsWordByte(*p))

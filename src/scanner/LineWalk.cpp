@@ -58,6 +58,13 @@ void LineWalk::Leave() {
     InIgnore = true;
 }
 
+std::size_t FindMarkerStart(std::string_view text, std::size_t pos, const SourceFlavour& flavour) {
+    const std::string_view stem = flavour.STARTIGNORE.substr(0, flavour.STARTIGNORE.find(':'));
+    for (pos = text.find(stem[0], pos); pos != std::string_view::npos; pos = text.find(stem[0], pos + 1))
+        if (StartsWithText(text.substr(pos, stem.size()), stem)) return pos;
+    return std::string_view::npos;
+}
+
 bool ContainsMarker(std::string_view line, std::string_view marker) {
     for (std::size_t at = line.find(marker[0]); at != std::string_view::npos;
          at = line.find(marker[0], at + 1))

@@ -15,6 +15,8 @@ public:
     // Takes the next line (without its end); true when it is to be scanned. Leave() then follows.
     bool Enter(std::string_view line);
     void Leave();
+    // No marker has a hold on the next line: lines without a marker of their own are all scanned.
+    bool Idle() const { return !InIgnore && !TranslateNext; }
 
 private:
     const SourceFlavour& flavour_;
@@ -22,6 +24,9 @@ private:
     bool IgnoreNextOnly = false;
     bool TranslateNext = false;
 };
+
+// Where the next marker may start, from `pos` on; npos when there is none.
+std::size_t FindMarkerStart(std::string_view text, std::size_t pos, const SourceFlavour& flavour);
 
 // Searches for a marker without regard to letter case.
 bool ContainsMarker(std::string_view line, std::string_view marker);

@@ -96,7 +96,20 @@ ScanOutput Scan::Run() {
     int number = CountChar(text_.substr(0, pos), '\n');
     const char delimiter = flavour_.STRDELIM[0];
     std::size_t nextDelimiter = text_.find(delimiter, pos);
+    std::size_t nextMarker = FindMarkerStart(text_, pos, flavour_);
     for (; pos < end; ++number) {
+        if (walk.Idle() && !constants_ && !continued_.Open()) {
+            // Lines that hold neither a delimiter nor a marker change nothing.
+            if (nextDelimiter < pos) nextDelimiter = text_.find(delimiter, pos);
+            if (nextMarker < pos) nextMarker = FindMarkerStart(text_, pos, flavour_);
+            const std::size_t next = std::min(nextDelimiter, nextMarker);
+            if (next >= end) break;
+            const std::size_t start = LineStart(next);
+            if (start > pos) {
+                number += CountChar(text_.substr(pos, start - pos), '\n');
+                pos = start;
+            }
+        }
         const std::size_t feed = std::min(text_.find('\n', pos), end);
         Line line{pos == first ? LineStart(first) : pos, pos, feed, number};
         while (line.end > line.begin && text_[line.end - 1] == '\r')
