@@ -29,6 +29,7 @@ const ScanRules& Rules() {
 
 template <typename Work> void OverAllUnits(benchmark::State& state, const Work& work) {
     std::size_t bytes = 0;
+    BenchUnits(); // reads them
     for (auto _ : state)
         for (const BenchUnit& unit : BenchUnits()) {
             work(unit, FlavourOf(unit.name));

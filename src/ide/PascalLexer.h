@@ -3,6 +3,7 @@
 #include "ide/SourceTokens.h"
 
 #include <array>
+#include <bit>
 #include <cstring>
 #include <vector>
 
@@ -58,6 +59,26 @@ inline ByteClass ClassOf(char c) {
 inline bool IsWordByte(char c) {
     ByteClass k = ClassOf(c);
     return k == ByteClass::Letter || k == ByteClass::Digit;
+}
+
+// The end of the run of word bytes at `p`. Eight bytes at a time: words end at every length, and a branch for each byte
+// is one that the processor mostly guesses wrong.
+inline const char* WordRunEnd(const char* p, const char* end) {
+    constexpr std::uint64_t ones = 0x0101010101010101, high = 0x80 * ones;
+    for (; std::endian::native == std::endian::little && end - p >= 8; p += 8) {
+        std::uint64_t bytes;
+        std::memcpy(&bytes, p, 8);
+        const std::uint64_t low = bytes & ~high, lower = low | 0x20 * ones;
+        const auto within = [](std::uint64_t x, unsigned char first, unsigned char last) {
+            return (x + (0x80u - first) * ones) & ~(x + (0x7Fu - last) * ones);
+        };
+        const std::uint64_t others =
+            ~(bytes | within(lower, 'a', 'z') | within(low, '0', '9') | within(low, '_', '_')) & high;
+        if (others) return p + std::countr_zero(others) / 8;
+    }
+    while (p < end && IsWordByte(*p))
+        ++p;
+    return p;
 }
 
 // Where quotes and comments end: the rules that the lexer and the search for comments share.
@@ -172,11 +193,7 @@ private:
         token.end = end;
     }
     std::uint32_t Offset(const char* p) const { return static_cast<std::uint32_t>(p - begin_); }
-    const char* WordEnd(const char* p) const {
-        while (p < end_ && IsWordByte(*p))
-            ++p;
-        return p;
-    }
+    const char* WordEnd(const char* p) const { return WordRunEnd(p, end_); }
     static bool IsWord(const char* p, const char* lower) {
         for (; *lower; ++p, ++lower)
             if ((*p | 0x20) != *lower) return false;
