@@ -16,6 +16,7 @@ public:
     TPopupMenu* FindPopupMenu(std::string_view name) override {
         return name == EditorLocalMenu.Name ? &EditorLocalMenu : nullptr;
     }
+    std::vector<std::string> ComponentClasses() const override { return {std::string(EditControlClass)}; }
     TPopupMenu EditorLocalMenu{std::string(EditorMenuName)};
 };
 

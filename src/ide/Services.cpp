@@ -97,6 +97,17 @@ IOTASourceEditor* IdeServices::GetSourceEditorFromModule(IOTAModule* module) {
     return FirstEditor<IOTASourceEditor>(module);
 }
 
+std::string IdeServices::GetIDEEditControlClass() {
+    for (int i = 0; ide_.menus && i < ide_.menus->FormCount(); ++i) {
+        const INTAForm* form = ide_.menus->GetForm(i);
+        if (!form || !SameText(form->ClassName(), EditWindowClass)) continue;
+        for (const std::string& name : form->ComponentClasses())
+            if (SameText(name, EditControlClass)) return name;
+        return {};
+    }
+    return {};
+}
+
 IDesigner* IdeServices::GetDesigner() {
     const std::vector<FormsListItem*> selected = forms_->Selected();
     return selected.empty() ? nullptr : GetDesignerByFormName(selected.front()->formName);

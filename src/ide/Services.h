@@ -39,6 +39,8 @@ public:
 
     std::string GetUnitSource(const std::string& fileName);
     IOTASourceEditor* GetCurrentSourceEditor();
+    // The class of the control that shows the text in the first editor window; empty when there is none.
+    std::string GetIDEEditControlClass();
     std::string GetSelectedSourceText();
     void ReplaceSelectedSourceText(std::string_view text);
     // 1-based; only CR LF pairs count.

@@ -218,6 +218,8 @@ public:
     virtual std::string ClassName() const = 0;
     // Its component of that name, nil when there is none.
     virtual TPopupMenu* FindPopupMenu(std::string_view name) = 0;
+    // The class names of its components, in their order.
+    virtual std::vector<std::string> ComponentClasses() const { return {}; }
 };
 inline constexpr std::string_view EditWindowClass = "TEditWindow";
 inline constexpr std::string_view EditControlClass = "TEditControl"; // the control in it that shows the text

@@ -186,5 +186,38 @@ TEST(Services, LinesAreCountedByPairsOfCrLf) {
     EXPECT_EQ(ide.services.Pos2Line4CurrentSource(10, text), 4);
 }
 
+// The first editor window counts, and in it the first text control, whatever the letter case of the class names.
+struct Screen : INTAServices {
+    struct Form : INTAForm {
+        std::string name;
+        std::vector<std::string> components;
+        Form(std::string className, std::vector<std::string> classes)
+            : name(std::move(className)), components(std::move(classes)) {}
+        std::string ClassName() const override { return name; }
+        TPopupMenu* FindPopupMenu(std::string_view) override { return nullptr; }
+        std::vector<std::string> ComponentClasses() const override { return components; }
+    };
+    std::vector<Form> forms;
+    TMainMenu menu;
+    TMainMenu& MainMenu() override { return menu; }
+    int FormCount() const override { return static_cast<int>(forms.size()); }
+    INTAForm* GetForm(int index) override { return &forms[static_cast<std::size_t>(index)]; }
+};
+
+TEST(Services, EditControlClassOfTheFirstEditorWindow) {
+    const auto found = [](std::vector<Screen::Form> forms) {
+        FakeIde ide;
+        Screen screen;
+        screen.forms = std::move(forms);
+        BorlandIDEServices services{ide, ide};
+        services.menus = &screen;
+        return IdeServices(services, ide.forms, ide.ui).GetIDEEditControlClass();
+    };
+    EXPECT_EQ(found({}), "");
+    EXPECT_EQ(found({{"TAppBuilder", {"TEditControl"}}}), "");
+    EXPECT_EQ(found({{"TAppBuilder", {}}, {"tEditWindow", {"TPanel", "TEDITCONTROL", "TEditControl"}}}), "TEDITCONTROL");
+    EXPECT_EQ(found({{"TEditWindow", {"TPanel"}}, {"TEditWindow", {"TEditControl"}}}), "");
+}
+
 } // namespace
 } // namespace glotta
