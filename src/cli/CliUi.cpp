@@ -5,6 +5,7 @@
 #include "platform/Terminal.h"
 #include "platform/Text.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace glotta {
@@ -18,17 +19,32 @@ namespace {
 } // namespace
 
 ModalResult CliUi::MessageDlg(const std::string& text, MsgType type, const MsgButtons& buttons, const std::string&) {
-    if (buttons.size() != 1)
-        Unanswered(text);
-    messages_.push_back({type, text});
-    return buttons.front();
+    if (buttons.size() == 1) {
+        messages_.push_back({type, text});
+        return buttons.front();
+    }
+    for (const Answered& known : answers_)
+        if (text.find(known.part) != std::string::npos &&
+            std::find(buttons.begin(), buttons.end(), known.answer) != buttons.end())
+            return known.answer;
+    Unanswered(text);
 }
 
 std::optional<std::string> CliUi::InputBox(const std::string&, const std::string& prompt, const std::string&) {
-    Unanswered(prompt);
+    const auto found = inputs_.find(prompt);
+    if (found == inputs_.end())
+        Unanswered(prompt);
+    return found->second;
 }
 
-bool CliUi::Execute(FileDialog& dialog) { Unanswered(dialog.title); }
+bool CliUi::Execute(FileDialog& dialog) {
+    const auto found = files_.find(dialog.title);
+    if (found == files_.end())
+        Unanswered(dialog.title);
+    dialog.fileName = found->second;
+    dialog.files = {found->second};
+    return true;
+}
 
 ModalResult CliUi::ShowModal(TForm& form) { Unanswered(form.caption); }
 
