@@ -1,5 +1,6 @@
 #include "host/FormDesigner.h"
 
+#include "host/ProjectListing.h"
 #include "platform/Error.h"
 
 namespace glotta {
@@ -13,6 +14,7 @@ std::string PlainDesigner::CreateMethod(const std::string& name, const MethodTyp
 }
 
 void PlainDesigner::RenameComponent(TComponent& component, const std::string& newName) {
+    if (!IsIdentifier(newName)) throw Error("'" + newName + "' is not a valid component name");
     if (TComponent* other = Root().FindComponent(newName); other && other != &component)
         throw Error("a component named " + newName + " already exists");
     if (&component != &Root()) unit_.RenameField(Root().ClassName(), component.Name(), newName);

@@ -94,6 +94,24 @@ FormValue ValueOf(const PropertyInfo& info, const FormProperty* stored, const st
     return FormValue::Identifier(text);
 }
 
+void SetProperty(TComponent& component, const PropertyInfo& info, const std::string& text) {
+    const FormProperty* stored = component.Node().Find(info.name);
+    if (text.empty() && !IsString(info.kind))
+        component.Node().Remove(info.name);
+    else
+        component.Node().Set(info.name, ValueOf(info, stored, text));
+}
+
+MethodType MethodTypeOf(const PropertyInfo& info) {
+    return {std::string(ClassCatalogue::PascalParameters(info.typeName)),
+            std::string(ClassCatalogue::CppParameters(info.typeName))};
+}
+
+void SetEvent(PlainFormEditor& form, TComponent& component, const PropertyInfo& info, const std::string& method) {
+    component.SetMethodProp(info.name,
+                            method.empty() ? method : form.Designer().CreateMethod(method, MethodTypeOf(info)));
+}
+
 } // namespace
 
 std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events) {
@@ -115,13 +133,29 @@ std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events) 
     return rows;
 }
 
-void SetProperty(TComponent& component, const PropertyInfo& info, const std::string& text) {
-    const FormProperty* stored = component.Node().Find(info.name);
-    if (text.empty() && !IsString(info.kind)) {
-        component.Node().Remove(info.name);
-        return;
-    }
-    component.Node().Set(info.name, ValueOf(info, stored, text));
+void EnterValue(PlainFormEditor& form, TComponent& component, const PropertyInfo& info, const std::string& text) {
+    if (info.kind == TTypeKind::tkMethod)
+        SetEvent(form, component, info, text);
+    else if (info.name == "Name")
+        form.Designer().RenameComponent(component, text);
+    else
+        SetProperty(component, info, text);
+    form.Designer().Modified();
+}
+
+std::string EventMethod(PlainFormEditor& form, TComponent& component, const PropertyInfo& info) {
+    if (std::string method = component.GetMethodProp(info.name); !method.empty()) return method;
+    const std::string event = info.name.starts_with("On") ? info.name.substr(2) : info.name;
+    const bool isRoot = &component == &form.Tree().Root();
+    SetEvent(form, component, info, (isRoot ? "Form" : component.Name()) + event);
+    form.Designer().Modified();
+    return component.GetMethodProp(info.name);
+}
+
+std::optional<PropertyInfo> DefaultEvent(const TComponent& component) {
+    for (const char* name : {"OnClick", "OnChange", "OnExecute", "OnCreate", "OnTimer"})
+        if (auto info = component.FindProperty(name)) return info;
+    return {};
 }
 
 } // namespace glotta

@@ -1,6 +1,6 @@
 // Property values of a component as an object inspector shows and takes them.
 #pragma once
-#include "vcl/Component.h"
+#include "host/FormEditor.h"
 
 #include <string>
 #include <vector>
@@ -17,7 +17,12 @@ struct PropertyRow {
 
 // Sorted by name; events or the others.
 std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events);
-// Sets the property by the text that a person typed. Throws Error for a text that is no value of its type.
-void SetProperty(TComponent& component, const PropertyInfo& info, const std::string& text);
+// Takes the text that a person typed for a property, an event or the name. Throws Error for a text that is no value of
+// its type.
+void EnterValue(PlainFormEditor& form, TComponent& component, const PropertyInfo& info, const std::string& text);
+// The method bound to the event; where there is none, one is made and bound.
+std::string EventMethod(PlainFormEditor& form, TComponent& component, const PropertyInfo& info);
+// The event that a double click on the component means.
+std::optional<PropertyInfo> DefaultEvent(const TComponent& component);
 
 } // namespace glotta

@@ -1,0 +1,154 @@
+#include "workbench/ObjectInspector.h"
+
+#include "workbench/QtText.h"
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyledItemDelegate>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QTableWidget>
+#include <QtWidgets/QVBoxLayout>
+
+namespace glotta {
+namespace {
+
+constexpr int ChoicesRole = Qt::UserRole;
+
+// A value with few choices is picked from a list.
+class ValueDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const QStringList choices = index.data(ChoicesRole).toStringList();
+        if (choices.isEmpty()) return QStyledItemDelegate::createEditor(parent, option, index);
+        auto* combo = new QComboBox(parent);
+        combo->addItems(choices);
+        connect(combo, &QComboBox::activated, this, [this, combo] {
+            Q_EMIT const_cast<ValueDelegate*>(this)->commitData(combo);
+            Q_EMIT const_cast<ValueDelegate*>(this)->closeEditor(combo);
+        });
+        return combo;
+    }
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        if (auto* combo = qobject_cast<QComboBox*>(editor))
+            combo->setCurrentText(index.data().toString());
+        else
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+        if (auto* combo = qobject_cast<QComboBox*>(editor))
+            model->setData(index, combo->currentText());
+        else
+            QStyledItemDelegate::setModelData(editor, model, index);
+    }
+};
+
+QTableWidget* MakeTable(QWidget* parent, const QString& name) {
+    auto* table = new QTableWidget(0, 2, parent);
+    table->setObjectName(name);
+    table->horizontalHeader()->hide();
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->setColumnWidth(0, 130);
+    table->setAlternatingRowColors(true);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setItemDelegateForColumn(1, new ValueDelegate(table));
+    table->setTabKeyNavigation(false);
+    return table;
+}
+
+} // namespace
+
+ObjectInspector::ObjectInspector(PlainFormEditor& form, Run run, QWidget* parent)
+    : QWidget(parent), form_(form), run_(std::move(run)) {
+    pages_ = new QTabWidget(this);
+    pages_->setDocumentMode(true);
+    properties_ = MakeTable(pages_, "properties");
+    events_ = MakeTable(pages_, "events");
+    pages_->addTab(properties_, "Properties");
+    pages_->addTab(events_, "Events");
+    filter_ = new QLineEdit(this);
+    filter_->setPlaceholderText("Filter");
+    filter_->setClearButtonEnabled(true);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    column->addWidget(filter_);
+    column->addWidget(pages_);
+
+    for (QTableWidget* table : {properties_, events_})
+        connect(table, &QTableWidget::cellChanged, this,
+                [this, table](int at, int cell) { Entered(*table, at, cell); });
+    connect(events_, &QTableWidget::cellDoubleClicked, this, [this](int at, int) {
+        if (at < int(rows_[1].size())) GoToEvent(rows_[1][std::size_t(at)].info);
+    });
+    connect(filter_, &QLineEdit::textChanged, this, [this] { Fill(); });
+}
+
+void ObjectInspector::Show(TComponent& component) {
+    component_ = &component;
+    Fill();
+}
+
+void ObjectInspector::Fill() {
+    if (!component_) return;
+    FillTable(*properties_, false);
+    FillTable(*events_, true);
+}
+
+void ObjectInspector::FillTable(QTableWidget& table, bool events) {
+    filling_ = true;
+    std::vector<PropertyRow>& rows = rows_[events];
+    rows = PropertyRows(*component_, events);
+    std::erase_if(rows, [&](const PropertyRow& row) {
+        return !Q(row.info.name).contains(filter_->text(), Qt::CaseInsensitive);
+    });
+    const int current = table.currentRow();
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.setRowCount(int(rows.size()));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const PropertyRow& row = rows[i];
+        auto* name = new QTableWidgetItem(Q(row.info.name));
+        name->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        name->setToolTip(Q(row.info.name + ": " + row.info.typeName));
+        auto* value = new QTableWidgetItem(Q(row.text));
+        value->setToolTip(Q(row.text));
+        QStringList choices;
+        for (const std::string& choice : row.choices)
+            choices << Q(choice);
+        value->setData(ChoicesRole, choices);
+        if (!row.editable) value->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        QFont font = table.font();
+        font.setBold(row.stored);
+        value->setFont(font);
+        table.setItem(int(i), 0, name);
+        table.setItem(int(i), 1, value);
+    }
+    if (current >= 0 && current < table.rowCount()) table.setCurrentCell(current, 1);
+    table.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                          QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
+    filling_ = false;
+}
+
+void ObjectInspector::Entered(QTableWidget& table, int row, int column) {
+    if (filling_ || column != 1 || !component_) return;
+    const PropertyRow& property = rows_[&table == events_][std::size_t(row)];
+    const std::string text = S(table.item(row, column)->text());
+    if (text == property.text) return;
+    run_([&, info = property.info] { EnterValue(form_, *component_, info, text); });
+    if (OnEntered) OnEntered();
+}
+
+void ObjectInspector::GoToEvent(const PropertyInfo& info) {
+    run_([&, info] { form_.Designer().ShowMethod(EventMethod(form_, *component_, info)); });
+}
+
+void ObjectInspector::GoToDefaultEvent() {
+    if (!component_) return;
+    if (const auto info = DefaultEvent(*component_)) GoToEvent(*info);
+}
+
+} // namespace glotta

@@ -1,0 +1,44 @@
+// The properties and events of one component of a form, to look at and to change.
+#pragma once
+#include "host/FormEditor.h"
+#include "workbench/PropertyValues.h"
+
+#include <QtWidgets/QWidget>
+
+class QLineEdit;
+class QTabWidget;
+class QTableWidget;
+
+namespace glotta {
+
+class ObjectInspector : public QWidget {
+public:
+    using Run = std::function<void(const std::function<void()>&)>;
+    // `run` runs what the person asked for, to its end or its message.
+    ObjectInspector(PlainFormEditor& form, Run run, QWidget* parent);
+
+    void Show(TComponent& component);
+    // To the method of the event that a double click on the component means.
+    void GoToDefaultEvent();
+    QTableWidget& Properties() { return *properties_; }
+    QTableWidget& Events() { return *events_; }
+
+    std::function<void()> OnEntered; // a value was taken or refused
+
+private:
+    void Fill();
+    void FillTable(QTableWidget& table, bool events);
+    void Entered(QTableWidget& table, int row, int column);
+    void GoToEvent(const PropertyInfo& info);
+
+    PlainFormEditor& form_;
+    Run run_;
+    TComponent* component_ = nullptr;
+    QTabWidget* pages_;
+    QTableWidget *properties_, *events_;
+    QLineEdit* filter_;
+    std::vector<PropertyRow> rows_[2]; // events are 1
+    bool filling_ = false;
+};
+
+} // namespace glotta
