@@ -1,3 +1,4 @@
+#include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "cli/ReplaceCommand.h"
 #include "cli/ScanCommand.h"
@@ -47,6 +48,7 @@ int Run(std::vector<std::string> arguments) {
     app.add_option("--encoding", global.encoding, "The encoding of units without a byte order mark (windows-1251, utf-8, ...)");
 
     std::function<int()> run;
+    [[maybe_unused]] const CommandLine line{app, global, run};
     ScanCommandOptions scan;
     CLI::App* scanApp = app.add_subcommand("scan", "List the hard-coded strings of units, folders or projects");
     AddScan(*scanApp, scan);

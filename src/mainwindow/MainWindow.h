@@ -105,6 +105,24 @@ public:
     void tbAddExternalFileClick();
     // Lists the file's form; a file without one adds nothing.
     void AddExternalFile(const std::string& fileName);
+    // Translation files; `mode` is a CommandMode.
+    void sbSaveAllClick(int mode);
+    void sbLoadAllClick(int mode);
+    void SaveForms1Click() { sbSaveAllClick(111); }
+    void SaveProject1Click() { sbSaveAllClick(-1); }
+    void LoadForms1Click() { sbLoadAllClick(111); }
+    void LoadProject1Click() { sbLoadAllClick(-1); }
+    void MergeForms1Click() { sbLoadAllClick(112); }
+    void MergeProject1Click() { sbLoadAllClick(113); }
+    void acProjectSettingsExecute();
+    void Updatetranslation1Click();
+    void ClearTranslations1Click();
+    void Findword1Click();
+    void Replacephrase1Click();
+    void CheckunusedIDs1Click();
+    void CheckbadstringIDsinunit1Click();
+    void Excludeproperties1Click();
+    void Wizard1Click();
     void ViewForm1Click();
     void SelectAll1Click();
     void sbOptionsClick();

@@ -42,6 +42,8 @@ public:
 
     // The splash or progress text; empty hides it. Use Progress, which hides it on every way out.
     virtual void SetProgress(const std::string& text) = 0;
+    // Whether the person asked to stop what the progress text shows. Long runs ask between two steps of work.
+    virtual bool Cancelled() { return false; }
 };
 
 // Shows a progress text for its life.
@@ -52,6 +54,7 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     void Text(const std::string& text) { ui_.SetProgress(text); }
+    bool Cancelled() const { return ui_.Cancelled(); }
     void Close() {
         if (open_)
             ui_.SetProgress({});

@@ -1,0 +1,19 @@
+// What a command declares itself with: each command's file adds its subcommand, options and how it runs.
+#pragma once
+#include "cli/Session.h"
+
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+namespace glotta {
+
+struct CommandLine {
+    CLI::App& app;
+    const GlobalOptions& global;
+    std::function<int()>& run; // set by the subcommand that was given; the result is the exit code
+};
+
+} // namespace glotta
