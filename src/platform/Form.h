@@ -74,13 +74,16 @@ public:
     }
     std::string caption;
 
-    // Asked before the form closes; false keeps it open. `result` is the way out.
+    // Asked before the form closes; false keeps it open. `result` is the way out, and `modalResult` too: the
+    // answer may turn that into another.
     virtual bool CloseQuery(Ui&, ModalResult /*result*/) { return true; }
     // Closes a modal form (or hides another) when CloseQuery agrees. The view acts on OnClose.
     bool Close(Ui& ui, ModalResult result) {
-        if (!CloseQuery(ui, result))
-            return false;
         modalResult = result;
+        if (!CloseQuery(ui, result)) {
+            modalResult = ModalResult::None;
+            return false;
+        }
         if (OnClose)
             OnClose();
         return true;
