@@ -23,6 +23,7 @@ class AutomationObject;
 class ExpertSettings;
 class Launcher;
 class RegistryStore;
+class TfrmFoundPhrases;
 class TGlottaProjectSettings;
 class TransEditor;
 struct MainCommand;
@@ -139,6 +140,7 @@ public:
 
     bool HasTransEditor() const { return context_.transEditor != nullptr; }
     bool HasSkipped() const { return !context_.results.skipped.empty(); }
+    bool HasProjectSettings() const;
     bool HasHelp() const { return bool(context_.ShowHelp); }
     bool CanDock() const { return bool(context_.DockWindow); }
     bool IsStayOnTop() const { return StayOnTop(); }
@@ -176,6 +178,7 @@ private:
     MainWindowContext context_;
     FormTranslation translation_;
     std::unique_ptr<TfrmSkippedStrings> skippedForm_;
+    std::unique_ptr<TfrmFoundPhrases> foundPhrases_;
     std::unique_ptr<AutomationObject> server_;
     std::vector<BoundItem> bound_;
     std::string componentClass_;
