@@ -76,6 +76,14 @@ TComponent& PlainFormEditor::CreateComponent(const std::string& className) {
     return component;
 }
 
+void PlainFormEditor::DeleteComponent(TComponent& component) {
+    unit_.RemoveField(tree_.Root().ClassName(), component.Name());
+    if (designer_.SelectedComponent() == &component) designer_.SelectComponent(nullptr);
+    rootHandle_.Forget();
+    tree_.Remove(component);
+    MarkModified();
+}
+
 std::string PlainFormEditor::Bytes() {
     tree_.BeforeWrite();
     return file_.Write();

@@ -21,6 +21,7 @@ public:
     int GetComponentCount() override { return static_cast<int>(component_.Components().size()); }
     IOTAComponent* GetComponent(int index) override;
     TComponent* GetComponentHandle() override { return &component_; }
+    void Forget() { children_.clear(); } // the components below are others now
 
 private:
     TComponent& component_;
@@ -40,6 +41,7 @@ public:
     IOTAModule& Module() override { return module_; }
     IOTAComponent* GetRootComponent() override { return &rootHandle_; }
     TComponent& CreateComponent(const std::string& className) override;
+    void DeleteComponent(TComponent& component) override;
     void MarkModified() override {
         modified_ = true;
         if (OnView) OnView();

@@ -69,6 +69,11 @@ void FormUnit::AddComponent(const std::string& formClass, const std::string& nam
     source.ApplyTo(source_);
 }
 
+void FormUnit::RemoveField(const std::string& formClass, const std::string& name) {
+    DeclaringEditor().Apply({isCpp_ ? cpp::RemoveMember(Declaration(), formClass, name)
+                                    : pascal::RemoveOrRenameField(Declaration(), formClass, name, {})});
+}
+
 void FormUnit::RenameField(const std::string& formClass, const std::string& name,
                            const std::string& newName) {
     DeclaringEditor().Apply({isCpp_ ? cpp::RenameMember(Declaration(), formClass, name, newName)

@@ -25,6 +25,7 @@ public:
     // The field, and the component's unit in `uses` (C++: member, #include and #pragma link).
     void AddComponent(const std::string& formClass, const std::string& name, const std::string& className,
                       const std::string& unit);
+    void RemoveField(const std::string& formClass, const std::string& name);
     void RenameField(const std::string& formClass, const std::string& name, const std::string& newName);
 
     // The method as declared, empty when it is not.

@@ -32,7 +32,8 @@ public:
     IOTAEditor* GetModuleFileEditor(int index) override; // unit, form, header
     bool Modified() const override;
     bool Save(bool changeName, bool forceSave) override;
-    bool Close() override { return host_.CloseModule(*this); }
+    bool Close() override { return CloseModule(false); }
+    bool CloseModule(bool forceClosed) override { return host_.CloseModule(*this, forceClosed); }
     int AddNotifier(std::shared_ptr<IOTAModuleNotifier> notifier) override {
         return notifiers_.Add(std::move(notifier));
     }

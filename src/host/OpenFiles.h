@@ -20,7 +20,7 @@ public:
     virtual ~ModuleHost() = default;
     virtual FileStore& Files() = 0;
     virtual void ShowModule(IOTAModule& module) = 0;
-    virtual bool CloseModule(IOTAModule& module) = 0;
+    virtual bool CloseModule(IOTAModule& module, bool discard) = 0;
     virtual void ActiveProjectChanged(const std::string& fileName) = 0;
     virtual std::optional<AncestorForm> FindAncestor(const IOTAModule& asking,
                                                      const std::string& formClass) = 0;

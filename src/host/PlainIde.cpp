@@ -235,7 +235,7 @@ bool PlainIde::OpenFile(const std::string& fileName) {
 
 bool PlainIde::CloseFile(const std::string& fileName) {
     IOTAModule* module = FindModule(fileName);
-    return module && CloseModule(*module);
+    return module && CloseModule(*module, false);
 }
 
 bool PlainIde::SaveFile(const std::string& fileName) {
@@ -259,10 +259,7 @@ bool PlainIde::Reload(const std::string& fileName) {
     IOTAModule* const module = FindModule(fileName);
     if (!module || !files_.Exists(PathFromText(module->FileName()))) return false;
     const std::string name = module->FileName();
-    auto ask = std::exchange(askClose, [](IOTAModule&) { return CloseAnswer::Discard; });
-    const bool closed = CloseModule(*module);
-    askClose = std::move(ask);
-    return closed && OpenFile(name);
+    return CloseModule(*module, true) && OpenFile(name);
 }
 
 bool PlainIde::MayClose(const Entry& entry) {
@@ -277,14 +274,14 @@ bool PlainIde::MayClose(const Entry& entry) {
     }
 }
 
-bool PlainIde::CloseModule(IOTAModule& module) {
+bool PlainIde::CloseModule(IOTAModule& module, bool discard) {
     const bool isProject = AsProject(&module) || AsProjectGroup(&module);
     std::vector<IOTAModule*> closing;
     for (const Entry& entry : modules_) {
         // A project takes its units along.
         if (entry.module.get() != &module && !(isProject && dynamic_cast<PlainModule*>(entry.module.get())))
             continue;
-        if (!MayClose(entry)) return false;
+        if (!discard && !MayClose(entry)) return false;
         closing.push_back(entry.module.get());
     }
     for (IOTAModule* each : closing)

@@ -86,7 +86,7 @@ private:
     ModuleHost& Host() { return *this; }
     FileStore& Files() override { return files_; }
     void ShowModule(IOTAModule& module) override;
-    bool CloseModule(IOTAModule& module) override;
+    bool CloseModule(IOTAModule& module, bool discard) override;
     void ActiveProjectChanged(const std::string& fileName) override {
         notifications_.Tell(ofnActiveProjectChanged, fileName);
     }

@@ -23,7 +23,8 @@ public:
     IOTAEditor* GetModuleFileEditor(int index) override; // the project source
     bool Modified() const override { return source_ && source_->Editor().Modified(); }
     bool Save(bool changeName, bool forceSave) override;
-    bool Close() override { return host_.CloseModule(*this); }
+    bool Close() override { return CloseModule(false); }
+    bool CloseModule(bool forceClosed) override { return host_.CloseModule(*this, forceClosed); }
     const std::vector<IOTAModuleInfo>& Modules() const override { return modules_; }
     bool IsCpp() const override { return description_.IsCpp(); }
 
@@ -69,7 +70,8 @@ public:
     IOTAEditor* GetModuleFileEditor(int) override { return nullptr; }
     bool Modified() const override;
     bool Save(bool changeName, bool forceSave) override;
-    bool Close() override { return host_.CloseModule(*this); }
+    bool Close() override { return CloseModule(false); }
+    bool CloseModule(bool forceClosed) override { return host_.CloseModule(*this, forceClosed); }
     int ProjectCount() const override { return static_cast<int>(description_.projects.size()); }
     // What the group says of a project, without reading it.
     const ProjectGroupEntry& ProjectEntryOf(int index) const {

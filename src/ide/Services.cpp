@@ -156,6 +156,11 @@ bool IdeServices::CloseFile(const std::string& fileName) {
     return ide_.actions.CloseFile(fileName);
 }
 
+bool IdeServices::CloseFileUnsaved(const std::string& fileName) {
+    IOTAModule* module = ide_.modules.FindModule(fileName);
+    return module && module->CloseModule(true);
+}
+
 bool IdeServices::SaveFile(const std::string& fileName) {
     IOTAModule* module = GetModuleFromFileName(fileName);
     return module && module->Save(false, true);

@@ -34,6 +34,7 @@ public:
     bool IsFileOpen(const std::string& fileName);
     bool OpenFile(const std::string& fileName, bool show);
     bool CloseFile(const std::string& fileName);
+    bool CloseFileUnsaved(const std::string& fileName); // without a question
     bool SaveFile(const std::string& fileName);
     void MarkModifiedForm(const std::string& fileName);
 

@@ -108,6 +108,8 @@ public:
     // Creates a component of the class on the root, with the field in the form class and the unit in `uses` (C++: the
     // member and the #include), named as the IDE names components. Throws Error when the form cannot take it.
     virtual TComponent& CreateComponent(const std::string& className) = 0;
+    // Takes a component off the form, and its field out of the form class; `uses` stays.
+    virtual void DeleteComponent(TComponent& component) = 0;
     virtual void MarkModified() = 0;
     virtual IDesigner& Designer() = 0;
 };
@@ -146,6 +148,8 @@ public:
     virtual bool Modified() const = 0;
     virtual bool Save(bool changeName, bool forceSave) = 0;
     virtual bool Close() = 0;
+    // Forced, it closes without a question, and what is not saved is lost.
+    virtual bool CloseModule(bool /*forceClosed*/) { return Close(); }
 };
 
 // A project's entry for a unit, whether it is open or not. Names are as the project file writes them.

@@ -45,6 +45,8 @@ std::string ClassParent(std::string_view header, std::string_view className);
 // #include "Unit.h" (or <unit.hpp>) behind the last include of the text; nothing when it is included already.
 TextEdits AddInclude(std::string_view text, std::string_view headerName, bool angleBrackets);
 TextEdits AddMember(std::string_view header, std::string_view className, std::string_view name, std::string_view type);
+// Nothing when the class does not declare it; a declaration of several names stays.
+TextEdits RemoveMember(std::string_view header, std::string_view className, std::string_view name);
 // Nothing when the class does not declare it.
 TextEdits RenameMember(std::string_view header, std::string_view className, std::string_view name,
                        std::string_view newName);

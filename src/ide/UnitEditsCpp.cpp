@@ -153,6 +153,18 @@ TextEdits AddMember(std::string_view header, std::string_view className, std::st
                    std::string(type) + " *" + std::string(name) + ";");
 }
 
+TextEdits RemoveMember(std::string_view header, std::string_view className, std::string_view name) {
+    const CppStructure unit(header);
+    const UnitTokens& tokens = unit.Tokens();
+    for (const Member& member : unit.Members(ClassOf(unit, className))) {
+        if (member.method || tokens[member.name] != name) continue;
+        for (std::size_t i = member.first; i < member.last; ++i)
+            if (tokens.IsSymbol(i, ",")) return {};
+        return {tokens.Without(tokens.Begin(member.first), tokens.End(member.last))};
+    }
+    return {};
+}
+
 TextEdits RenameMember(std::string_view header, std::string_view className, std::string_view name,
                        std::string_view newName) {
     const CppStructure unit(header);

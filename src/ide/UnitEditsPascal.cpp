@@ -72,15 +72,6 @@ TextEdit AddBody(const UnitStructure& unit, const std::string& heading) {
     return {place, place, (blankAbove ? "" : "\r\n") + body};
 }
 
-TextEdit RemoveLines(const UnitTokens& tokens, std::size_t begin, std::size_t end) {
-    const std::size_t rest = tokens.RestOfLine(end);
-    const bool alone =
-        tokens.FirstOnLine(begin) &&
-        tokens.Text().substr(end, rest - end).find_first_not_of(" \t") == std::string_view::npos;
-    if (!alone || rest == tokens.Text().size()) return {begin, end, ""};
-    return {tokens.LineStart(begin), rest + (tokens.Text()[rest] == '\r' ? 2 : 1), ""};
-}
-
 } // namespace
 
 std::string ClassParent(std::string_view text, std::string_view className) {
@@ -111,7 +102,7 @@ TextEdits RemoveOrRenameField(std::string_view text, std::string_view className,
                 if (!newName.empty()) return {{tokens.Begin(i), tokens.End(i), std::string(newName)}};
                 if (more) return {{tokens.Begin(i), tokens.Begin(i + 2), ""}};
                 if (i > member.name) return {{tokens.Begin(i - 1), tokens.End(i), ""}};
-                return {RemoveLines(tokens, tokens.Begin(member.first), tokens.End(member.last))};
+                return {tokens.Without(tokens.Begin(member.first), tokens.End(member.last))};
             }
             if (!more) break;
         }

@@ -233,4 +233,12 @@ TextEdit UnitTokens::LineBehind(std::size_t place, const std::string& line) cons
     return {place, rest, "\r\n" + line + "\r\n" + Indent(place)};
 }
 
+TextEdit UnitTokens::Without(std::size_t begin, std::size_t end) const {
+    const std::size_t rest = RestOfLine(end);
+    const bool alone = FirstOnLine(begin) &&
+                       text_.substr(end, rest - end).find_first_not_of(" \t") == std::string_view::npos;
+    if (!alone || rest == text_.size()) return {begin, end, ""};
+    return {LineStart(begin), rest + (text_[rest] == '\r' ? 2 : 1), ""};
+}
+
 } // namespace glotta

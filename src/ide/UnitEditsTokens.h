@@ -53,6 +53,8 @@ public:
     std::string Indent(std::size_t place) const; // the blanks that start its line
     // A new line behind `place`; what follows there on the line moves to a line of its own.
     TextEdit LineBehind(std::size_t place, const std::string& line) const;
+    // Takes a range away, with its line when nothing else stands there.
+    TextEdit Without(std::size_t begin, std::size_t end) const;
 
 private:
     void Sort(const std::vector<Token>& all);

@@ -69,6 +69,10 @@ public:
     // Whether records of properties that are no longer there are kept by UpdateTranslations.
     bool IgnoreRemovals() const { return GetOrdProp("IgnoreRemovals") != 0; }
     void SetIgnoreRemovals(bool ignore) { SetBoolProp("IgnoreRemovals", ignore); }
+    void SetAutoSkipEmpties(bool skip) { SetBoolProp("AutoSkipEmpties", skip); }
+    void SetChangeLocales(bool change) { SetBoolProp("ChangeLocales", change); }
+    void SetStoreAsUTF8(bool store) { SetBoolProp("StoreAsUTF8", store); }
+    void SetUseDefaultLanguage(bool use) { SetBoolProp("UseDefaultLanguage", use); }
 
     // Collects the form's texts by kind (all but "Strings"). A text that changed replaces the first
     // language's; its translations, and all others, stay.

@@ -4,9 +4,11 @@ namespace glotta {
 
 const std::string_view GlottaClasses = R"(
 @Glotta
-TgxCustomLang TComponent: NumberOfLanguages LangNames Language ActiveLanguage Dispatcher Captions Hints DisplayLabels
- Strings Fonts MultiLines DlgsCaptions OtherStrings Locales CharSets Collections ListView_TreeView_Items
- ExtendedTranslations DoNotTranslate ExcludedProperties SmartExcludeProps IgnoreRemovals OnChangeLanguage
+TgxCustomLang TComponent: NumberOfLanguages LangNames Language ActiveLanguage LangDispatcher Captions Hints
+ DisplayLabels Strings Fonts MultiLines DlgsCaptions OtherStrings Locales CharSets Collections ListView_TreeView_Items
+ ExtendedTranslations DoNotTranslate ExcludedProperties SmartExcludeProps IgnoreRemovals AutoSkipEmpties=Boolean
+ ChangeLocales=Boolean DoRaiseExceptions=Boolean IsInheritedOwner=Boolean StoreAsUTF8=Boolean
+ TranslateExtendedFirst=Boolean UseDefaultLanguage=Boolean UseTaskMsgDlg=Boolean OnChangeLanguage
 TGlotta TgxCustomLang:
 TGlottaRTSE TgxCustomLang:
 TGlottaRT TgxCustomLang:

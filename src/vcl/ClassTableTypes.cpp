@@ -266,7 +266,7 @@ TCommonDialog c Dialog
 TOpenDialog c
 TComponent c
 TgxCustomLang c Glotta CommonContainer
-TGlottaDispatcher c GlottaDispatcher Dispatcher
+TGlottaDispatcher c GlottaDispatcher LangDispatcher
 TLanguageInfos c LanguageInfos
 TExtendedTranslations c ExtendedTranslations
 TNotifyEvent m OnHint OnActivate OnDeactivate OnChange OnClick OnCreate OnDblClick OnDestroy OnDropDown OnCloseUp OnSelect OnEnter OnExit

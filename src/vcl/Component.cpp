@@ -214,6 +214,34 @@ TComponent& ComponentTree::Create(std::string className, std::string name) {
     return component;
 }
 
+namespace {
+
+void CollectNodes(const FormNode& node, std::unordered_set<const FormNode*>& nodes) {
+    nodes.insert(&node);
+    for (const auto& child : node.children)
+        CollectNodes(*child, nodes);
+}
+
+bool EraseNode(FormNode& parent, const FormNode& node) {
+    if (std::erase_if(parent.children, [&](const auto& child) { return child.get() == &node; }) > 0) return true;
+    return std::any_of(parent.children.begin(), parent.children.end(),
+                       [&](const auto& child) { return EraseNode(*child, node); });
+}
+
+} // namespace
+
+void ComponentTree::Remove(TComponent& component) {
+    if (&component == root_) throw Error("the form itself cannot be taken off the form");
+    const FormNode& node = component.Node();
+    std::unordered_set<const FormNode*> gone;
+    CollectNodes(node, gone);
+    const auto isGone = [&](const TComponent& each) { return gone.contains(&each.node_); };
+    for (const auto& each : all_)
+        std::erase_if(each->owned_, [&](const TComponent* owned) { return isGone(*owned); });
+    std::erase_if(all_, [&](const auto& each) { return isGone(*each); });
+    EraseNode(root_->Node(), node);
+}
+
 // A component that is not seen at run time lies on the form as an icon; it gets a place where none lies yet.
 void ComponentTree::PlaceNonVisual(FormNode& node) {
     constexpr std::int64_t first = 8, step = 32;

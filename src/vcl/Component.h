@@ -87,6 +87,8 @@ public:
 
     // Adds a child to the root's node, owned by the root. Throws Error when `name` is taken or no identifier.
     TComponent& Create(std::string className, std::string name);
+    // Takes a component other than the root off the form, with what it contains.
+    void Remove(TComponent& component);
     // The name that the IDE gives: the class name without its leading T and the first free number from 1
     // ("Glotta1").
     std::string UniqueName(std::string_view className) const;

@@ -90,6 +90,7 @@ public:
     TComponent& CreateComponent(const std::string& className) override {
         return tree_.Create(className, tree_.UniqueName(className));
     }
+    void DeleteComponent(TComponent& component) override { tree_.Remove(component); }
     void MarkModified() override { ++timesModified; }
     IDesigner& Designer() override { return *this; }
     TComponent& Root() override { return tree_.Root(); }
