@@ -103,10 +103,11 @@ ClassInfo ReadClass(std::string_view line, std::string_view unit, const Types& t
 } // namespace
 
 std::string_view TypeKindName(TTypeKind kind) {
-    static constexpr std::array<std::string_view, 18> names = {
+    static constexpr std::array<std::string_view, 19> names = {
         "tkUnknown", "tkInteger", "tkChar",   "tkEnumeration", "tkFloat",   "tkString",
         "tkSet",     "tkClass",   "tkMethod", "tkWChar",       "tkLString", "tkWString",
-        "tkVariant", "tkArray",   "tkRecord", "tkInterface",   "tkInt64",   "tkDynArray"};
+        "tkVariant", "tkArray",   "tkRecord", "tkInterface",   "tkInt64",   "tkDynArray",
+        "tkUString"};
     return names[static_cast<std::size_t>(kind)];
 }
 
@@ -163,6 +164,18 @@ const PropertyInfo* ClassCatalogue::FindProperty(std::string_view className,
         for (const PropertyInfo& candidate : info->properties)
             if (SameText(candidate.name, property)) return &candidate;
     return nullptr;
+}
+
+const PropertyInfo* ClassCatalogue::UsualProperty(std::string_view property) {
+    static const auto usual = [] {
+        std::unordered_map<std::string, PropertyInfo, TextHash, TextEqual> result;
+        const Types types;
+        for (const auto& [name, type] : types.defaults)
+            result.emplace(name, types.Property(name));
+        return result;
+    }();
+    const auto found = usual.find(property);
+    return found == usual.end() ? nullptr : &found->second;
 }
 
 void ClassCatalogue::Add(ClassInfo info) {

@@ -29,7 +29,8 @@ enum class TTypeKind : unsigned char {
     tkRecord,
     tkInterface,
     tkInt64,
-    tkDynArray
+    tkDynArray,
+    tkUString
 };
 std::string_view TypeKindName(TTypeKind kind); // "tkLString"
 
@@ -58,6 +59,8 @@ public:
     // Inherited ones first, each name once.
     std::vector<const PropertyInfo*> PublishedProperties(std::string_view className) const;
     const PropertyInfo* FindProperty(std::string_view className, std::string_view property) const;
+    // What a property of this name is wherever most classes publish it ("Font": TFont); nil without a custom.
+    static const PropertyInfo* UsualProperty(std::string_view property);
 
     // The parameter list of an event type as Object Pascal writes it, "Sender: TObject" for TNotifyEvent, and
     // for C++

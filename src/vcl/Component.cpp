@@ -1,6 +1,7 @@
 #include "vcl/Component.h"
 
 #include "platform/Error.h"
+#include "vcl/PublishedObject.h"
 
 #include <unordered_set>
 
@@ -15,58 +16,6 @@ Factories& RegisteredFactories() {
 }
 
 constexpr std::string_view StringsSuffix = ".Strings";
-
-// What a value in the file says about a property that the catalogue does not know.
-PropertyInfo InfoFromFile(const FormProperty& property) {
-    const std::size_t dot = property.name.find('.');
-    PropertyInfo info{property.name.substr(0, dot), {}, TTypeKind::tkUnknown};
-    if (dot != std::string::npos) {
-        info.kind = TTypeKind::tkClass;
-        info.typeName =
-            SameText(std::string_view(property.name).substr(dot), StringsSuffix) ? "TStrings" : "TPersistent";
-        return info;
-    }
-    const auto set = [&](TTypeKind kind, std::string_view type) {
-        info.kind = kind;
-        info.typeName = type;
-    };
-    switch (property.value.kind) {
-    case FormValueKind::True:
-    case FormValueKind::False:
-        set(TTypeKind::tkEnumeration, "Boolean");
-        break;
-    case FormValueKind::Integer:
-        set(TTypeKind::tkInteger, "Integer");
-        break;
-    case FormValueKind::Float:
-        set(TTypeKind::tkFloat, "Double");
-        break;
-    case FormValueKind::Currency:
-        set(TTypeKind::tkFloat, "Currency");
-        break;
-    case FormValueKind::Date:
-        set(TTypeKind::tkFloat, "TDateTime");
-        break;
-    case FormValueKind::String:
-        set(TTypeKind::tkLString, "string");
-        break;
-    case FormValueKind::Set:
-        set(TTypeKind::tkSet, {});
-        break;
-    case FormValueKind::Collection:
-        set(TTypeKind::tkClass, "TCollection");
-        break;
-    case FormValueKind::Nil:
-        set(TTypeKind::tkClass, "TComponent");
-        break;
-    case FormValueKind::Identifier:
-        info.kind = StartsWithText(info.name, "On") ? TTypeKind::tkMethod : TTypeKind::tkEnumeration;
-        break;
-    default:
-        break;
-    }
-    return info;
-}
 
 void CheckName(std::string_view name) {
     const bool valid = !name.empty() && !(name[0] >= '0' && name[0] <= '9') &&
@@ -101,23 +50,11 @@ TComponent* TComponent::FindComponent(std::string_view name) const {
 }
 
 std::vector<PropertyInfo> TComponent::PublishedProperties() const {
-    std::vector<PropertyInfo> properties;
-    std::unordered_set<std::string, TextHash, TextEqual> names;
-    for (const PropertyInfo* info : tree_.Catalogue().PublishedProperties(CatalogueClass())) {
-        names.insert(info->name);
-        properties.push_back(*info);
-    }
-    for (const FormProperty& property : node_.properties)
-        if (PropertyInfo info = InfoFromFile(property); names.insert(info.name).second)
-            properties.push_back(std::move(info));
-    return properties;
+    return PublishedObject(*this).Properties();
 }
 
 std::optional<PropertyInfo> TComponent::FindProperty(std::string_view name) const {
-    if (const PropertyInfo* info = tree_.Catalogue().FindProperty(CatalogueClass(), name)) return *info;
-    for (const FormProperty& property : node_.properties)
-        if (PropertyInfo info = InfoFromFile(property); SameText(info.name, name)) return info;
-    return {};
+    return PublishedObject(*this).FindProperty(name);
 }
 
 std::string TComponent::GetStrProp(std::string_view name, std::string_view missing) const {

@@ -59,6 +59,7 @@ public:
 
 private:
     friend class ComponentTree;
+    friend class PublishedObject;
     std::string_view CatalogueClass() const;
     ComponentTree& tree_;
     FormNode& node_;
@@ -96,12 +97,14 @@ public:
     void BeforeWrite(); // asks every component to bring its node up to date
 
 private:
+    friend class FormSnapshot;
     TComponent& Adopt(FormNode& node, TComponent* owner);
     void PlaceNonVisual(FormNode& node);
     FormFile& file_;
     const ClassCatalogue& catalogue_;
     std::string rootBase_;
-    std::vector<std::unique_ptr<TComponent>> all_;
+    std::vector<std::unique_ptr<TComponent>> all_;    // in order of creation, those that were taken away included
+    std::vector<std::unique_ptr<FormNode>> detached_; // the nodes of these
     TComponent* root_ = nullptr;
 };
 

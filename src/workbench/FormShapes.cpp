@@ -1,6 +1,7 @@
 #include "workbench/FormShapes.h"
 
 #include "platform/Text.h"
+#include "vcl/ComponentKinds.h"
 #include "workbench/QtText.h"
 
 #include <unordered_map>
@@ -22,12 +23,6 @@ int Number(const TComponent& component, std::string_view name, int missing) {
     const FormProperty* property = component.Node().Find(name);
     if (!property || property->value.kind != FormValueKind::Integer) return missing;
     return int(std::clamp<std::int64_t>(property->value.integer, -MaximumSize, MaximumSize));
-}
-
-bool IsVisual(const TComponent& component) {
-    if (component.InheritsFrom("TControl")) return true;
-    const bool known = component.Tree().Catalogue().Find(component.ClassName()) != nullptr;
-    return !known && component.Node().Find("Width") && component.Node().Find("Height");
 }
 
 bool IsPage(const TComponent& component) {
@@ -76,7 +71,7 @@ private:
     }
 
     void Add(TComponent& component, const FormNode& parent, QPoint origin, const QRect& clip, int depth) {
-        if (!IsVisual(component)) {
+        if (!IsControl(component)) {
             if (component.InheritsFrom("TMenuItem") || !component.Node().Find("Left")) return;
             const QRect rect(Number(component, "Left", 0), Number(component, "Top", 0), IconSize, IconSize);
             icons_.push_back({&component, rect, QRect(QPoint(0, 0), picture_.client), depth, false});
