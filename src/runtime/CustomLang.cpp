@@ -159,6 +159,14 @@ std::vector<std::string> Merge(const std::vector<std::string>& old, const std::v
 } // namespace
 
 void TgxCustomLang::UpdateTranslations() {
+    CollectLists(IgnoreRemovals());
+}
+
+void TgxCustomLang::RefreshLists() {
+    CollectLists(true);
+}
+
+void TgxCustomLang::CollectLists(bool keepVanished) {
     const std::vector<FormText> texts = CollectTexts(*this);
     std::array<std::vector<const FormText*>, StringsTypeCount> byKind;
     for (const FormText& text : texts)
@@ -166,7 +174,7 @@ void TgxCustomLang::UpdateTranslations() {
     for (int kind = 0; kind < StringsTypeCount; ++kind) {
         if (kind == stStrings) continue;
         std::vector<std::string> records =
-            Merge(lists_[kind].Items(), byKind[kind], NumberOfLanguages(), IgnoreRemovals());
+            Merge(lists_[kind].Items(), byKind[kind], NumberOfLanguages(), keepVanished);
         if (records != lists_[kind].Items()) SetStrings(static_cast<TStringsType>(kind), std::move(records));
     }
 }

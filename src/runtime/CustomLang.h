@@ -2,9 +2,9 @@
 // properties.
 #pragma once
 #include "platform/StringList.h"
-#include "runtime/Languages.h"
+#include "runtime/FormTranslations.h"
 #include "runtime/Record.h"
-#include "runtime/StringsType.h"
+#include "runtime/TranslationFiles.h"
 
 #include <array>
 #include <bitset>
@@ -80,10 +80,30 @@ public:
     // Removes all records of all kinds.
     void ClearTranslations();
 
+    // Everything that translation files hold of this component; setting it changes what differs only.
+    FormTranslations Translations() const;
+    void SetTranslations(const FormTranslations& translations);
+
+    // Brings the lists up to date with the form before they are saved. Unlike UpdateTranslations it never drops a
+    // record.
+    virtual void RefreshLists();
+    // This form's part of a translation file, under the form's name. Each throws Error and then changes neither
+    // component nor file; files are written by TranslationFiles::Flush.
+    virtual void SaveAllToFile(TranslationFiles& files, const std::string& fileName,
+                               const std::string& delimiter);
+    virtual void SaveAllToBinaryFile(TranslationFiles& files, const std::string& fileName);
+    // Replaces the component's translations. A form that the file does not hold keeps what it has; the answer is
+    // then false. Without `languages` the component keeps its languages and takes the texts of those.
+    virtual bool LoadAllFromFile(TranslationFiles& files, const std::string& fileName, bool languages);
+    virtual bool LoadAllFromBinaryFile(TranslationFiles& files, const std::string& fileName);
+    // Adds what the component lacks, of either kind of file; see Merged.
+    virtual bool MergeAllFromFile(TranslationFiles& files, const std::string& fileName);
+
     void Loaded() override;
     void BeforeWrite() override;
 
 private:
+    void CollectLists(bool keepVanished);
     struct Index { // of "Strings", built at the first look-up
         std::unordered_map<std::string, int, TextHash, TextEqual> ids;
         std::unordered_multimap<std::string, int> texts;

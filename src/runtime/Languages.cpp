@@ -4,16 +4,12 @@
 
 namespace glotta {
 
-namespace {
-constexpr int MaxLanguages = 1000; // a damaged number must not claim memory without bounds
-}
-
 Languages Languages::Read(const TComponent& component) {
     Languages languages;
     languages.names = component.GetStrings("LangNames");
     const auto named = std::max<std::int64_t>(1, static_cast<std::int64_t>(languages.names.size()));
     const std::int64_t count = component.GetOrdProp("NumberOfLanguages", named);
-    languages.count = static_cast<int>(std::clamp<std::int64_t>(count, 1, MaxLanguages));
+    languages.count = static_cast<int>(std::clamp<std::int64_t>(count, 1, Max));
     const std::int64_t active = component.GetOrdProp("ActiveLanguage", 1);
     languages.active = static_cast<int>(std::clamp<std::int64_t>(active, 1, languages.count));
     languages.FillNames();
@@ -28,7 +24,7 @@ void Languages::Write(TComponent& component) const {
 }
 
 void Languages::SetCount(int number) {
-    count = std::clamp(number, 1, MaxLanguages);
+    count = std::clamp(number, 1, Max);
     if (names.size() > static_cast<std::size_t>(count)) names.resize(static_cast<std::size_t>(count));
     FillNames();
     if (active > count) active = 1;

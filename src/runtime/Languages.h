@@ -5,6 +5,8 @@
 namespace glotta {
 
 struct Languages {
+    static constexpr int Max = 1000; // a damaged number must not claim memory without bounds
+
     int count = 1;
     int active = 1; // from 1
     std::vector<std::string>
@@ -18,6 +20,7 @@ struct Languages {
     // Throws Error when there is no language of that name.
     void SetActive(std::string_view name);
     const std::string& ActiveName() const { return names[static_cast<std::size_t>(active - 1)]; }
+    bool operator==(const Languages&) const = default;
 
 private:
     void FillNames();

@@ -7,6 +7,7 @@ namespace glotta {
 namespace {
 
 std::string Escaped(std::string_view text) {
+    if (text.find(ItemDelimiter) == text.npos && text.find(ItemEscape) == text.npos) return std::string(text);
     std::string result;
     result.reserve(text.size());
     for (char c : text) {
@@ -61,6 +62,27 @@ std::string_view ExtractWord(int index, std::string_view text, char delimiter) {
 
 std::string RecordField(std::string_view record, int field) {
     return Unescaped(ExtractWord(field, record, ItemDelimiter));
+}
+
+std::vector<std::string> RecordFields(std::string_view record) {
+    std::vector<std::string> fields;
+    fields.reserve(static_cast<std::size_t>(FieldCount(record)));
+    for (std::size_t end; (end = record.find(ItemDelimiter)) != record.npos; record.remove_prefix(end + 1))
+        fields.push_back(Unescaped(record.substr(0, end)));
+    fields.push_back(Unescaped(record));
+    return fields;
+}
+
+void AppendField(std::string& record, std::string_view text) {
+    record += ItemDelimiter;
+    record += Escaped(text);
+}
+
+std::string JoinFields(const std::vector<std::string>& fields) {
+    std::string record = Escaped(fields.front());
+    for (std::size_t i = 1; i < fields.size(); ++i)
+        AppendField(record, fields[i]);
+    return record;
 }
 
 std::string MakeRecord(std::string_view id, std::string_view text, int languages) {

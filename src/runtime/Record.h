@@ -7,6 +7,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace glotta {
 
@@ -19,6 +20,10 @@ std::string_view ExtractWord(int index, std::string_view text, char delimiter);
 
 // Field 1 is the identifier, field k + 1 the text in language k, each without its escapes.
 std::string RecordField(std::string_view record, int field);
+std::vector<std::string> RecordFields(std::string_view record);
+// The record with one more field; an empty record has one field, an empty identifier.
+void AppendField(std::string& record, std::string_view text);
+std::string JoinFields(const std::vector<std::string>& fields); // one at least
 std::string MakeRecord(std::string_view id, std::string_view text, int languages);
 // The record with one field replaced; missing fields before it become empty.
 std::string WithField(std::string_view record, int field, std::string_view text);

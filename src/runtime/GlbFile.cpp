@@ -1,0 +1,189 @@
+#include "runtime/GlbFile.h"
+
+#include "platform/Encoding.h"
+#include "platform/Error.h"
+#include "runtime/Crc32.h"
+#include "runtime/Record.h"
+
+namespace glotta {
+namespace {
+
+// A conversion of line ends or a copy as text shows in the first eight bytes.
+constexpr std::string_view Signature = "\x89GLB\r\n\x1A\n";
+constexpr std::uint32_t Version = 1;
+
+// --- writing
+
+void AppendFixed(std::string& bytes, std::uint32_t value) {
+    for (int shift = 0; shift < 32; shift += 8)
+        bytes += static_cast<char>(value >> shift & 0xFF);
+}
+
+void AppendNumber(std::string& bytes, std::size_t value) {
+    for (; value >= 0x80; value >>= 7)
+        bytes += static_cast<char>((value & 0x7F) | 0x80);
+    bytes += static_cast<char>(value);
+}
+
+void AppendText(std::string& bytes, const std::string& text) {
+    // Bytes that are no UTF-8 become what stands for them in every text that is decoded.
+    const std::string valid = Decode(text, {EncodingKind::Utf8});
+    AppendNumber(bytes, valid.size());
+    bytes += valid;
+}
+
+void AppendTexts(std::string& bytes, const std::vector<std::string>& texts, std::size_t first = 0) {
+    AppendNumber(bytes, texts.size() - first);
+    for (; first < texts.size(); ++first)
+        AppendText(bytes, texts[first]);
+}
+
+std::string FormBytes(const std::string& name, const FormTranslations& translations) {
+    std::string bytes;
+    AppendText(bytes, name);
+    AppendNumber(bytes, static_cast<std::size_t>(translations.languages.count));
+    AppendNumber(bytes, static_cast<std::size_t>(translations.languages.active));
+    AppendTexts(bytes, translations.languages.names);
+    for (const std::vector<std::string>& records : translations.records) {
+        AppendNumber(bytes, records.size());
+        for (const std::string& record : records) {
+            const std::vector<std::string> fields = RecordFields(record);
+            AppendText(bytes, fields[0]);
+            AppendTexts(bytes, fields, 1);
+        }
+    }
+    return bytes;
+}
+
+// --- reading
+
+class Reader {
+public:
+    Reader(const std::string& fileName, std::string_view bytes) : fileName_(fileName), bytes_(bytes) {}
+
+    std::size_t Place() const { return at_; }
+    void SetEnd(std::size_t end) { bytes_ = bytes_.substr(0, end); }
+
+    [[noreturn]] void Fail(std::size_t place, const std::string& reason) const {
+        throw Error(fileName_ + ": offset " + std::to_string(place) + ": " + reason);
+    }
+
+    std::string_view Bytes(std::size_t count) {
+        if (bytes_.size() - at_ < count) Fail(at_, "the data ends too early");
+        at_ += count;
+        return bytes_.substr(at_ - count, count);
+    }
+
+    std::uint32_t Fixed() {
+        std::uint32_t value = 0;
+        int shift = 0;
+        for (const char byte : Bytes(4)) {
+            value |= std::uint32_t(static_cast<unsigned char>(byte)) << shift;
+            shift += 8;
+        }
+        return value;
+    }
+
+    std::size_t Number() {
+        const std::size_t begin = at_;
+        std::uint64_t value = 0;
+        for (int shift = 0;; shift += 7) {
+            const auto byte = static_cast<unsigned char>(Bytes(1)[0]);
+            value |= std::uint64_t(byte & 0x7F) << shift;
+            if (value > 0xFFFFFFFF || shift > 28) Fail(begin, "this number is too large");
+            if (byte < 0x80) return static_cast<std::size_t>(value);
+        }
+    }
+
+    std::size_t NumberBetween(std::size_t least, std::size_t most, const char* what) {
+        const std::size_t begin = at_, number = Number();
+        if (number < least || number > most)
+            Fail(begin, std::string(what) + " cannot be " + std::to_string(number));
+        return number;
+    }
+
+    // A count of things that take a byte at least.
+    std::size_t Count() {
+        const std::size_t begin = at_, count = Number();
+        if (count > bytes_.size() - at_)
+            Fail(begin, "there is no room for " + std::to_string(count) + " entries");
+        return count;
+    }
+
+    std::string Text() {
+        const std::size_t length = Number(), begin = at_;
+        const std::string_view bytes = Bytes(length);
+        for (std::size_t pos = 0; (pos = FindNonAscii(bytes, pos)) < bytes.size();) {
+            const std::size_t size = CharLength(bytes, pos);
+            if (size == 0) Fail(begin + pos, "this is no UTF-8");
+            pos += size;
+        }
+        return std::string(bytes);
+    }
+
+private:
+    const std::string& fileName_;
+    std::string_view bytes_;
+    std::size_t at_ = 0;
+};
+
+std::string ReadRecord(Reader& in) {
+    std::string record = JoinFields({in.Text()});
+    for (std::size_t texts = in.Count(); texts > 0; --texts)
+        AppendField(record, in.Text());
+    return record;
+}
+
+FormTranslations ReadTranslations(Reader& in) {
+    FormTranslations result;
+    Languages& languages = result.languages;
+    languages.count = static_cast<int>(in.NumberBetween(1, Languages::Max, "the number of languages"));
+    const auto count = static_cast<std::size_t>(languages.count);
+    languages.active = static_cast<int>(in.NumberBetween(1, count, "the active language"));
+    const std::size_t place = in.Place();
+    for (std::size_t names = in.Count(); names > 0; --names)
+        languages.names.push_back(in.Text());
+    if (languages.names.size() < count) in.Fail(place, "there are more languages than names");
+    for (std::vector<std::string>& records : result.records)
+        for (std::size_t left = in.Count(); left > 0; --left)
+            records.push_back(ReadRecord(in));
+    return result;
+}
+
+} // namespace
+
+GlbFile::GlbFile(const std::string& fileName, std::string_view bytes) {
+    Reader in(fileName, bytes);
+    if (!bytes.starts_with(Signature)) in.Fail(0, "this is no TGlotta binary file");
+    in.Bytes(Signature.size());
+    if (const std::uint32_t version = in.Fixed(); version != Version)
+        in.Fail(Signature.size(), "version " + std::to_string(version) + " of the format is not known");
+    for (std::uint32_t left = in.Fixed(); left > 0; --left) {
+        const std::size_t size = in.Fixed(), place = in.Place();
+        const std::uint32_t sum = in.Fixed();
+        const std::size_t begin = in.Place();
+        if (Crc32(in.Bytes(size)) != sum) in.Fail(place, "the checksum of this form's data is wrong");
+        Reader form(fileName, bytes.substr(0, begin + size));
+        form.Bytes(begin);
+        const std::string name = form.Text();
+        if (Has(name)) form.Fail(begin, "form " + name + " is there twice");
+        Forms()[PlaceOf(name)].translations = ReadTranslations(form);
+        if (form.Place() != begin + size) form.Fail(form.Place(), "there is more data than this form has");
+    }
+    if (in.Place() != bytes.size()) in.Fail(in.Place(), "there is more data behind the last form");
+}
+
+std::string GlbFile::ToBytes() {
+    std::string bytes(Signature);
+    AppendFixed(bytes, Version);
+    AppendFixed(bytes, static_cast<std::uint32_t>(Forms().size()));
+    for (const Form& form : Forms()) {
+        const std::string data = FormBytes(form.name, form.translations);
+        AppendFixed(bytes, static_cast<std::uint32_t>(data.size()));
+        AppendFixed(bytes, Crc32(data));
+        bytes += data;
+    }
+    return bytes;
+}
+
+} // namespace glotta

@@ -1,0 +1,203 @@
+#include "runtime/GltSyntax.h"
+
+#include "platform/Encoding.h"
+#include "platform/Error.h"
+#include "platform/Text.h"
+
+#include <charconv>
+
+namespace glotta {
+namespace {
+
+constexpr std::string_view Backslash = "\\";
+
+struct Letter { // behind the escape character
+    char letter, meaning;
+};
+constexpr Letter Letters[] = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'s', ' '}};
+constexpr char NothingLetter = 'e'; // an empty text where nothing would be lost
+constexpr char NoTextsDigit = '0';  // a record without texts
+
+bool IsPunctuation(char32_t c) {
+    return (c > ' ' && c < '0') || (c > '9' && c < 'A') || (c > 'Z' && c < 'a') || (c > 'z' && c < 0x7F);
+}
+
+// What editors do not show, or take for a line end.
+bool IsInvisible(char32_t c) {
+    return c < ' ' || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029 || c == 0xFEFF;
+}
+
+bool IsBlankEnd(std::string_view text) {
+    return static_cast<unsigned char>(text[0]) <= ' ';
+}
+
+void AppendEscaped(std::string& out, std::string_view escape, char32_t c) {
+    out += escape;
+    for (const Letter& letter : Letters)
+        if (c == static_cast<unsigned char>(letter.meaning)) {
+            out += letter.letter;
+            return;
+        }
+    if (IsPunctuation(c)) {
+        out += static_cast<char>(c);
+        return;
+    }
+    char digits[8];
+    const auto end = std::to_chars(digits, digits + sizeof digits, static_cast<std::uint32_t>(c), 16).ptr;
+    out.append("u{").append(digits, end).append("}");
+}
+
+// What else than the escape character and invisible ones has to be escaped. `rest` begins at the character.
+using MustEscape = bool (*)(std::string_view rest, bool first, std::string_view delimiter);
+
+bool InText(std::string_view rest, bool first, std::string_view delimiter) {
+    if (rest[0] == ' ' && (first || rest.size() == 1)) return true;
+    return !delimiter.empty() && (rest.starts_with(delimiter) || delimiter.starts_with(rest));
+}
+
+bool InName(std::string_view rest, bool first, std::string_view) {
+    if (first && (rest[0] == ';' || rest[0] == '#' || rest[0] == '[')) return true;
+    return rest[0] == '=' || InText(rest, first, {});
+}
+
+std::string Escaped(std::string_view text, std::string_view escape, std::string_view delimiter,
+                    MustEscape must) {
+    std::string out;
+    out.reserve(text.size() + text.size() / 8);
+    for (std::size_t pos = 0; pos < text.size();) {
+        const std::size_t begin = pos;
+        const std::string_view rest = text.substr(pos);
+        if (rest.starts_with(escape)) {
+            out.append(escape).append(escape);
+            pos += escape.size();
+            continue;
+        }
+        const bool ascii = static_cast<unsigned char>(rest[0]) < 0x80;
+        char32_t c = NextChar(text, pos);
+        const std::string_view bytes = text.substr(begin, pos - begin);
+        if (!ascii && CharLength(text, begin) == 0) c = 0x10FE00 + static_cast<unsigned char>(bytes[0]);
+        if (IsInvisible(c) || (!ascii && HasRawCharacters(bytes)) || must(rest, begin == 0, delimiter))
+            AppendEscaped(out, escape, c);
+        else
+            out += bytes;
+    }
+    return out;
+}
+
+// Reads the escape at the beginning of `rest`, which becomes what follows.
+void ReadEscape(std::string& out, std::string_view& rest, std::string_view escape) {
+    const std::string_view whole = rest;
+    rest.remove_prefix(escape.size());
+    if (rest.starts_with(escape)) {
+        out += escape;
+        rest.remove_prefix(escape.size());
+        return;
+    }
+    const char c = rest.empty() ? '\0' : rest[0];
+    for (const Letter& letter : Letters)
+        if (c == letter.letter) {
+            out += letter.meaning;
+            rest.remove_prefix(1);
+            return;
+        }
+    if (c == NothingLetter || (c > 0 && IsPunctuation(static_cast<unsigned char>(c)))) {
+        if (c != NothingLetter) out += c;
+        rest.remove_prefix(1);
+        return;
+    }
+    if (rest.starts_with("u{")) {
+        std::uint32_t code = 0;
+        const char* const end = rest.data() + rest.size();
+        const auto [behind, failed] = std::from_chars(rest.data() + 2, end, code, 16);
+        const bool surrogate = code >= 0xD800 && code < 0xE000;
+        if (failed == std::errc() && behind < end && *behind == '}' && code <= 0x10FFFF && !surrogate) {
+            AppendChar(out, code);
+            rest.remove_prefix(static_cast<std::size_t>(behind - rest.data()) + 1);
+            return;
+        }
+    }
+    throw Error("unknown escape \"" + std::string(CharPrefix(whole, 2)) + "\"");
+}
+
+// Takes the value apart at the delimiters; without a delimiter it is one text.
+std::vector<std::string> Read(std::vector<std::string> fields, std::string_view value,
+                              std::string_view escape, std::string_view delimiter) {
+    const char special[] = {escape[0], delimiter.empty() ? escape[0] : delimiter[0], '\xF4'};
+    fields.emplace_back();
+    for (std::string_view rest = value; !rest.empty();) {
+        const std::size_t plain = std::min(rest.find_first_of({special, sizeof special}), rest.size());
+        fields.back().append(rest.substr(0, plain));
+        rest.remove_prefix(plain);
+        if (rest.empty()) break;
+        if (rest.starts_with(escape)) {
+            ReadEscape(fields.back(), rest, escape);
+        } else if (!delimiter.empty() && rest.starts_with(delimiter)) {
+            fields.emplace_back();
+            rest.remove_prefix(delimiter.size());
+        } else {
+            const std::string_view character = CharPrefix(rest, 1);
+            if (HasRawCharacters(character))
+                throw Error("this holds bytes that are no text in the file's encoding");
+            fields.back() += character;
+            rest.remove_prefix(character.size());
+        }
+    }
+    return fields;
+}
+
+} // namespace
+
+GltSyntax GltSyntax::For(std::string_view delimiter) {
+    if (delimiter.empty()) throw Error("You cannot use empty delimiter!");
+    if (delimiter.find_first_of("\r\n") != delimiter.npos ||
+        HasRawCharacters(Decode(delimiter, {EncodingKind::Utf8})))
+        throw Error("A delimiter cannot hold line breaks or bytes that are no text");
+    GltSyntax syntax;
+    syntax.delimiter = delimiter;
+    const auto taken = [&] { return delimiter.find(syntax.escape) != delimiter.npos; };
+    for (const char candidate : {'\\', '^', '%', '|', '`', '&'})
+        if (syntax.escape = candidate; !taken()) return syntax;
+    for (char32_t candidate = 0xA1; taken(); ++candidate) {
+        syntax.escape.clear();
+        AppendChar(syntax.escape, candidate);
+    }
+    return syntax;
+}
+
+std::string GltSyntax::Value(const std::vector<std::string>& fields) const {
+    if (fields.size() == 1) return escape + NoTextsDigit;
+    std::string value;
+    for (std::size_t i = 1; i < fields.size(); ++i) {
+        if (i > 1) value += delimiter;
+        value += Escaped(fields[i], escape, delimiter, InText);
+    }
+    // Blanks at the ends are no part of a value, not even those of the delimiter.
+    if (value.empty()) return value;
+    if (IsBlankEnd(value)) value.insert(0, escape + NothingLetter);
+    if (IsBlankEnd({&value.back(), 1})) value += escape + NothingLetter;
+    return value;
+}
+
+std::vector<std::string> GltSyntax::Fields(std::string id, std::string_view value) const {
+    std::vector<std::string> fields{std::move(id)};
+    if (value == escape + NoTextsDigit) return fields;
+    return Read(std::move(fields), value, escape, delimiter);
+}
+
+std::string GltSyntax::Text(std::string_view text) const {
+    return Escaped(text, escape, {}, InText);
+}
+
+std::string GltSyntax::ReadText(std::string_view value) const {
+    return Read({}, value, escape, {})[0];
+}
+
+std::string GltName(std::string_view name) {
+    return name.empty() ? std::string(Backslash) + NothingLetter : Escaped(name, Backslash, {}, InName);
+}
+
+std::string ReadGltName(std::string_view written) {
+    return Read({}, written, Backslash, {})[0];
+}
+
+} // namespace glotta
