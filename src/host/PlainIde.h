@@ -1,5 +1,6 @@
 // The plain-file IDE: projects, units and forms opened from disk behind the tool interfaces.
 #pragma once
+#include "host/DesignRegistry.h"
 #include "host/FileStore.h"
 #include "host/HostMenus.h"
 #include "host/Module.h"
@@ -29,9 +30,12 @@ public:
     PlainIde(const PlainIde&) = delete;
     PlainIde& operator=(const PlainIde&) = delete;
 
-    BorlandIDEServices Services() { return {*this, *this, &notifications_, &menus_, &wizards_}; }
+    BorlandIDEServices Services() {
+        return {*this, *this, &notifications_, &menus_, &wizards_, &design_};
+    }
     HostMenus& Menus() { return menus_; }
     Wizards& PackageWizards() { return wizards_; }
+    DesignRegistry& Design() { return design_; }
 
     // Opens a project group or a project; `told` is the encoding of all its units where no byte order mark
     // tells another. Throws Error when the file cannot be read.
@@ -126,3 +130,4 @@ private:
 };
 
 } // namespace glotta
+    DesignRegistry design_;

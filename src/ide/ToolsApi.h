@@ -265,6 +265,8 @@ public:
 struct BorlandIDEServices {
     IOTAModuleServices& modules;
     IOTAActionServices& actions;
+class IDesignServices; // ide/DesignIntf.h
+
     IOTAServices* services = nullptr;
     INTAServices* menus = nullptr;
     IOTAWizardServices* wizards = nullptr;
@@ -272,6 +274,7 @@ struct BorlandIDEServices {
 
 // The module's nature: modules, projects and groups are told apart by the interface they offer.
 inline IOTAProject* AsProject(IOTAModule* module) { return dynamic_cast<IOTAProject*>(module); }
+    IDesignServices* design = nullptr;
 inline IOTAProjectGroup* AsProjectGroup(IOTAModule* module) { return dynamic_cast<IOTAProjectGroup*>(module); }
 
 } // namespace glotta

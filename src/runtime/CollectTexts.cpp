@@ -1,6 +1,7 @@
 #include "runtime/CollectTexts.h"
 
 #include "runtime/Exclusions.h"
+#include "runtime/ExtendedTranslations.h"
 #include "runtime/ViewItems.h"
 
 #include <unordered_set>
@@ -163,7 +164,10 @@ class Collector {
 public:
     explicit Collector(const TComponent& localization)
         : exclusions_(localization), form_(localization.Tree().File()),
-          viewItems_(localization.InheritsFrom("TGlottaTLV")) {}
+          viewItems_(localization.InheritsFrom("TGlottaTLV")) {
+        for (const ExtendedTranslation& item : ReadExtendedTranslations(localization))
+            extended_.insert(item.ID());
+    }
 
     void Component(const TComponent& component, const std::string& prefix) {
         const bool localization =
@@ -191,7 +195,7 @@ private:
             return Add(stLocales, prefix + property.name, ScalarText(property.value));
         switch (property.value.kind) {
         case FormValueKind::String:
-            if (IsUserText(LastPart(path)))
+            if (IsUserText(LastPart(path)) || extended_.contains(component_->Name() + '.' + property.name))
                 Add(inItem ? stCollections : KindOf(path, property.value.text), prefix + property.name,
                     property.value.text);
             break;
@@ -256,6 +260,7 @@ private:
     }
 
     Exclusions exclusions_;
+    std::unordered_set<std::string, TextHash, TextEqual> extended_; // what the developer adds to the user's texts
     const FormFile& form_;
     bool viewItems_;
     const TComponent* component_ = nullptr;

@@ -8,11 +8,18 @@
 
 namespace glotta {
 
-// A record of a component.
+// What the editor's view of the extended translations shows of an item, besides component and property.
+enum TransEditorShow : unsigned { tsValue = 1, tsTranslations = 2 };
+
+// What the editor opens on: a record of a component, the list of one kind, or the extended translations.
 struct TransEditorPlace {
+    static constexpr int NoRecord = -1;
     TStringsType kind;
-    int index; // from 0
+    int index;             // from 0, or NoRecord
+    unsigned extended = 0; // a set of TransEditorShow for the extended translations, 0 for the lists
 };
+inline constexpr TransEditorPlace ExtendedTranslationsPlace{stCaptions, TransEditorPlace::NoRecord,
+                                                            tsValue | tsTranslations};
 
 class TransEditor {
 public:

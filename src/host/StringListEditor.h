@@ -1,0 +1,42 @@
+// The IDE's own editor of string lists: for every property of that type that no package has an editor for.
+#pragma once
+#include "ide/DesignEditors.h"
+#include "platform/Form.h"
+
+#include <string>
+#include <vector>
+
+namespace glotta {
+
+class TStringsEditDlg : public TForm {
+public:
+    explicit TStringsEditDlg(Ui& ui, const std::vector<std::string>& lines);
+
+    TField<std::string> Memo;      // lines
+    TField<std::string> LineCount; // "3 lines"
+    TAction OKButton, CancelButton;
+
+    std::vector<std::string> Lines() const;
+    bool Changed() const { return changed_; } // by the person
+
+private:
+    void Count();
+    Ui& ui_;
+    bool changed_ = false;
+};
+
+class TStringListProperty : public TClassProperty {
+public:
+    TStringListProperty(DesignPlace place, TComponent& component, PropertyInfo property, Ui* ui)
+        : TClassProperty(place, component, std::move(property)), ui_(*ui) {}
+    TPropertyAttributes GetAttributes() const override { return DialogOnly(TClassProperty::GetAttributes()); }
+    void Edit() override;
+
+private:
+    Ui& ui_;
+};
+
+// Registers it for all string lists. `ui` outlives the registry.
+void RegisterStringListEditor(IDesignServices& ide, Ui& ui);
+
+} // namespace glotta
