@@ -33,6 +33,9 @@ public:
                                 std::string_view componentName, std::string_view componentClass,
                                 bool insertIfNone);
 
+    // Throws Error when the form has no dispatcher of that name.
+    std::vector<std::string> LanguagesOfDispatcher(const FormsListItem& item, const std::string& name);
+
     void sbCaptionsClick();  // "Translate"
     void sbLanguagesClick(); // "Languages"
 
@@ -48,7 +51,6 @@ private:
                      std::string_view componentName, std::string_view componentClass);
     struct FormLanguages;
     FormLanguages LanguagesOf(const FormsListItem& item);
-    std::vector<std::string> LanguagesOfDispatcher(const FormsListItem& item, const std::string& name);
     std::vector<TgxCustomLang*> LangComponents(const std::string& formName);
     void Refresh();
     IdeServices& ide_;

@@ -1,4 +1,5 @@
 // The command "Languages": the language list of the selected form's component, or of its dispatcher.
+#include "ide/FileAsItWas.h"
 #include "platform/Error.h"
 #include "platform/Text.h"
 #include "translation/ConfigureLanguages.h"
@@ -29,14 +30,6 @@ std::vector<std::string> DefaultLanguages(const SettingsValues& settings) {
     while (int(names.size()) < std::min(settings.NumLang, TfrmConfigureLanguages::MaxLanguages))
         names.push_back(NextLanguageName(names, defaults));
     return names;
-}
-
-// What `read` finds out about a form; a file that was not open before is closed again.
-template <class Read> auto WithFileAsItWas(IdeServices& ide, const std::string& fileName, Read read) {
-    const bool wasOpen = ide.IsFileOpen(fileName);
-    auto result = read();
-    if (!wasOpen && ide.IsFileOpen(fileName)) ide.CloseFile(fileName);
-    return result;
 }
 
 } // namespace
