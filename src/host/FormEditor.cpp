@@ -47,7 +47,26 @@ PlainFormEditor::PlainFormEditor(IOTAModule& module, std::string fileName, std::
     : module_(module), fileName_(std::move(fileName)), file_(FormFile::Parse(bytes, fileName_, codePage)),
       unit_(unit), heritage_(unit_, file_.Root(), std::move(findAncestor)),
       tree_(file_, heritage_.RootBase()), rootHandle_(tree_.Root()),
-      designer_(tree_, unit_, heritage_, [this] { MarkModified(); }), onShow_(std::move(onShow)) {}
+      history_(tree_, [this] { return Texts ? Texts() : std::vector<PlainSourceEditor*>(); }),
+      designer_(tree_, unit_, heritage_, [this] { MarkModified(); }), onShow_(std::move(onShow)) {
+    designer_.isInherited = [this](const std::string& name) { return IsInherited(name); };
+}
+
+bool PlainFormEditor::IsInherited(const std::string& name) const {
+    const std::vector<std::string> names = InheritedNames ? InheritedNames() : std::vector<std::string>();
+    return std::any_of(names.begin(), names.end(), [&](const std::string& other) { return SameText(other, name); });
+}
+
+void PlainFormEditor::Step(const std::function<void()>& change) {
+    history_.Step(change);
+    if (OnView) OnView();
+}
+
+void PlainFormEditor::Follow(const FormHistory::Renames& renames) {
+    for (const FormSnapshot::Rename& rename : renames)
+        designer_.FollowRename(*rename.component, {rename.from, rename.fromClass}, {rename.to, rename.toClass});
+    if (OnView) OnView();
+}
 
 std::string PlainFormEditor::FreeName(const std::string& className) {
     std::string name = tree_.UniqueName(className);

@@ -1,6 +1,7 @@
 // The form of an open module: its components over the form file.
 #pragma once
 #include "host/FormDesigner.h"
+#include "host/FormHistory.h"
 #include "host/FormUnit.h"
 #include "ide/ToolsApi.h"
 #include "vcl/Component.h"
@@ -36,31 +37,42 @@ public:
     const FormHeritage& Heritage() const { return heritage_; }
 
     std::string FileName() const override { return fileName_; }
-    bool Modified() const override { return modified_; }
+    bool Modified() const override { return history_.Modified(); }
     void Show() override { onShow_(); }
     IOTAModule& Module() override { return module_; }
     IOTAComponent* GetRootComponent() override { return &rootHandle_; }
     TComponent& CreateComponent(const std::string& className) override;
     void DeleteComponent(TComponent& component) override;
     void MarkModified() override {
-        modified_ = true;
+        history_.Touch();
         if (OnView) OnView();
     }
+    // A person's change, as one step that can be undone; what fails leaves everything as it was.
+    void Step(const std::function<void()>& change);
+    bool CanUndo() const { return history_.CanUndo(); }
+    bool CanRedo() const { return history_.CanRedo(); }
+    void Undo() { Follow(history_.Undo()); }
+    void Redo() { Follow(history_.Redo()); }
     PlainDesigner& Designer() override { return designer_; }
 
     ComponentTree& Tree() { return tree_; }
     const ComponentTree& Tree() const { return tree_; }
     // The form file's bytes. Throws Error when a text cannot be expressed.
     std::string Bytes();
-    void MarkSaved() { modified_ = false; }
+    void MarkSaved() { history_.MarkSaved(); }
+    void MarkUnsaved() { history_.MarkUnsaved(); }
 
     std::function<void()> OnView; // the window's: the form changed
     // The host's: names of components in forms that this one inherits from or that inherit from it. At run
     // time all of them are components of one form.
     std::function<std::vector<std::string>()> InheritedNames;
+    // The host's: the texts that changes of the form may reach.
+    FormHistory::Editors Texts;
 
 private:
     std::string FreeName(const std::string& className);
+    bool IsInherited(const std::string& name) const;
+    void Follow(const FormHistory::Renames& renames);
 
     IOTAModule& module_;
     std::string fileName_;
@@ -69,9 +81,9 @@ private:
     FormHeritage heritage_;
     ComponentTree tree_;
     PlainComponent rootHandle_;
+    FormHistory history_;
     PlainDesigner designer_;
     std::function<void()> onShow_;
-    bool modified_ = false;
 };
 
 } // namespace glotta

@@ -1,7 +1,6 @@
 #include "host/FormUnit.h"
 
 #include "host/PragmaLink.h"
-#include "ide/UnitEdits.h"
 #include "platform/Error.h"
 
 namespace glotta {
@@ -78,6 +77,22 @@ void FormUnit::RenameField(const std::string& formClass, const std::string& name
                            const std::string& newName) {
     DeclaringEditor().Apply({isCpp_ ? cpp::RenameMember(Declaration(), formClass, name, newName)
                                     : pascal::RemoveOrRenameField(Declaration(), formClass, name, newName)});
+}
+
+void FormUnit::RenameForm(const FormNames& from, const FormNames& to) {
+    for (PlainSourceEditor* editor : {&source_, header_})
+        if (editor) editor->Apply({glotta::RenameForm(editor->Buffer().Text(), isCpp_, from, to)});
+}
+
+bool FormUnit::Declares(const std::string& formClass, const std::string& member) const {
+    return DeclaresMember(Declaration(), isCpp_, formClass, member);
+}
+
+bool FormUnit::Mentions(const FormNames& names) const {
+    for (const PlainSourceEditor* editor : {&source_, header_})
+        for (const std::string& name : {names.name, names.className})
+            if (editor && glotta::Mentions(editor->Buffer().Text(), isCpp_, name)) return true;
+    return false;
 }
 
 std::string FormUnit::FindMethod(const std::string& formClass, const std::string& name) const {

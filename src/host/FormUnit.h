@@ -3,6 +3,7 @@
 #pragma once
 #include "host/SourceEditor.h"
 #include "ide/ToolsApi.h"
+#include "ide/UnitEdits.h"
 
 #include <string>
 
@@ -27,6 +28,11 @@ public:
                       const std::string& unit);
     void RemoveField(const std::string& formClass, const std::string& name);
     void RenameField(const std::string& formClass, const std::string& name, const std::string& newName);
+
+    // The form's class and variable, in unit and header.
+    void RenameForm(const FormNames& from, const FormNames& to);
+    bool Declares(const std::string& formClass, const std::string& member) const;
+    bool Mentions(const FormNames& names) const;
 
     // The method as declared, empty when it is not.
     std::string FindMethod(const std::string& formClass, const std::string& name) const;

@@ -67,6 +67,16 @@ void PlainModule::OpenForm(std::optional<Encoding> hint) {
             [this](const std::string& formClass) { return host_.FindAncestor(*this, formClass); },
             [this] { host_.ShowModule(*this); });
         form_->InheritedNames = [this] { return host_.InheritedNames(*form_); };
+        form_->Texts = [this] {
+            std::vector<PlainSourceEditor*> texts = host_.ProjectSources();
+            texts.push_back(&source_.Editor());
+            if (header_) texts.push_back(&header_->Editor());
+            return texts;
+        };
+        form_->Designer().isFormTaken = [this](const FormNames& names) { return host_.HasForm(names); };
+        form_->Designer().renameInProjects = [this](const FormNames& from, const FormNames& to) {
+            host_.RenameForm(*this, from, to);
+        };
         form_->Designer().onRenamed = [this](TComponent& component, const std::string& oldName,
                                              const std::string& newName) {
             notifiers_.ForEach([&](IOTAModuleNotifier& notifier) {
@@ -148,7 +158,7 @@ void PlainModule::KeepOverDisk() {
     if (!form_) return;
     if (std::string bytes = BytesOnDisk(host_, files_.form); bytes != formBytes_) {
         formBytes_ = std::move(bytes);
-        form_->MarkModified();
+        form_->MarkUnsaved();
     }
 }
 

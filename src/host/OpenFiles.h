@@ -26,6 +26,12 @@ public:
                                                      const std::string& formClass) = 0;
     // Component names of the forms that this one inherits from, and of those that inherit from it.
     virtual std::vector<std::string> InheritedNames(const PlainFormEditor& form) = 0;
+    // Whether a project has a form of this name or class.
+    virtual bool HasForm(const FormNames& names) = 0;
+    // Renames the form in the projects that list its unit: their sources, and what is known of their forms.
+    virtual void RenameForm(const IOTAModule& module, const FormNames& from, const FormNames& to) = 0;
+    // The sources of projects that are open.
+    virtual std::vector<PlainSourceEditor*> ProjectSources() = 0;
     virtual void AddProblem(std::string problem) = 0;
     // The user's explicit wish.
     virtual std::optional<Encoding> ToldEncoding() const = 0;

@@ -161,6 +161,28 @@ std::vector<std::string> PlainIde::NamesIn(const std::string& formFile) {
     }
 }
 
+bool PlainIde::HasForm(const FormNames& names) {
+    for (PlainProject* project : Projects())
+        if (project->HasForm(names)) return true;
+    return false;
+}
+
+void PlainIde::RenameForm(const IOTAModule& module, const FormNames& from, const FormNames& to) {
+    const fs::path unit = PathFromText(module.FileName());
+    for (PlainProject* project : Projects()) {
+        if (!project->FindEntry(unit)) continue;
+        project->RenameForm(unit, from, to);
+        if (onProjectChanged) onProjectChanged(*project);
+    }
+}
+
+std::vector<PlainSourceEditor*> PlainIde::ProjectSources() {
+    std::vector<PlainSourceEditor*> sources;
+    for (PlainProject* project : Projects())
+        if (PlainSourceEditor* source = project->OpenedSource()) sources.push_back(source);
+    return sources;
+}
+
 // --- modules ---
 
 IOTAModule* PlainIde::GetModule(int index) {

@@ -72,6 +72,7 @@ public:
     // A module was brought to front; something was passed over. Both are a window's.
     std::function<void(IOTAModule&)> onShow;
     std::function<void(const std::string& problem)> onProblem;
+    std::function<void(IOTAProject&)> onProjectChanged; // it lists other units or forms than before
 
     // Open modules with files that others changed or deleted since they were read or saved.
     std::vector<IOTAModule*> ChangedOnDisk() const;
@@ -96,6 +97,9 @@ private:
     }
     std::optional<AncestorForm> FindAncestor(const IOTAModule& asking, const std::string& formClass) override;
     std::vector<std::string> InheritedNames(const PlainFormEditor& form) override;
+    bool HasForm(const FormNames& names) override;
+    void RenameForm(const IOTAModule& module, const FormNames& from, const FormNames& to) override;
+    std::vector<PlainSourceEditor*> ProjectSources() override;
     void AddProblem(std::string problem) override {
         problems_.push_back(std::move(problem));
         if (onProblem) onProblem(problems_.back());
@@ -126,8 +130,8 @@ private:
     std::vector<std::string> problems_;
     HostMenus menus_;
     Notifications notifications_;
+    DesignRegistry design_;
     Wizards wizards_; // first to go: they use all of the above
 };
 
 } // namespace glotta
-    DesignRegistry design_;

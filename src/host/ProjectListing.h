@@ -2,6 +2,7 @@
 // format.
 #pragma once
 #include "host/ProjectFiles.h"
+#include "platform/TextEdit.h"
 
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@ namespace glotta {
 // A unit as a project file writes it.
 struct ListedUnit {
     std::string unitName, path, formName, designClass;
+    std::size_t formBegin = 0, formEnd = 0; // where a project source names the form
 };
 
 struct ProjectListing {
@@ -42,6 +44,10 @@ ProjectListing ListMakefileProject(std::string_view text);
 GroupListing ListMakefileGroup(std::string_view text);
 // .bdsgroup, .groupproj. Throws Error "file: line N: reason".
 GroupListing ListXmlGroup(std::string_view text, const std::string& fileName);
+
+// Adds to `edits` the form's name where a project source lists the unit, unless it is among them.
+void AddListedRename(TextEdits& edits, std::string_view text, bool isCpp, std::string_view unit,
+                     const std::string& newName);
 
 // "CodePage=1251" on a line of its own, as .dof, .bpr and .bpk files have it.
 std::optional<unsigned> FindCodePageLine(std::string_view text);

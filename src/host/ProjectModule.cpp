@@ -1,6 +1,7 @@
 #include "host/ProjectModule.h"
 
 #include "host/FormHead.h"
+#include "host/ProjectListing.h"
 #include "platform/Error.h"
 #include "platform/Files.h"
 
@@ -82,6 +83,27 @@ const IOTAModuleInfo* PlainProject::FindFormClass(const std::string& formClass) 
     ReadHeads();
     const auto found = byFormClass_.find(formClass);
     return found == byFormClass_.end() ? nullptr : found->second;
+}
+
+bool PlainProject::HasForm(const FormNames& names) {
+    return FindFormClass(names.className) ||
+           std::any_of(modules_.begin(), modules_.end(),
+                       [&](const IOTAModuleInfo& info) { return SameText(info.formName, names.name); });
+}
+
+void PlainProject::RenameForm(const std::filesystem::path& unit, const FormNames& from, const FormNames& to) {
+    const auto entry = byFile_.find(PathText(unit));
+    if (entry == byFile_.end()) return;
+    if (GetModuleFileEditor(0)) {
+        const std::string& text = source_->Editor().Buffer().Text();
+        TextEdits edits = glotta::RenameForm(text, IsCpp(), from, to);
+        AddListedRename(edits, text, IsCpp(), PathText(unit.stem()), to.name);
+        source_->Editor().Apply({std::move(edits)});
+    }
+    IOTAModuleInfo& info = modules_[static_cast<std::size_t>(entry->second - modules_.data())];
+    info.formName = info.annotatedFormName = to.name;
+    byFormClass_.erase(from.className);
+    byFormClass_.emplace(to.className, &info);
 }
 
 std::vector<FileChange> PlainProject::Changes() {

@@ -28,8 +28,8 @@ public:
     const std::vector<IOTAModuleInfo>& Modules() const override { return modules_; }
     bool IsCpp() const override { return description_.IsCpp(); }
 
-    // The project's code page, as a hint for its units.
-    std::optional<Encoding> EncodingHint() const;
+    // The project's code page.
+    std::optional<Encoding> EncodingHint() const override;
     // The entry of a file on disk, nil when the project does not list it.
     const IOTAModuleInfo* FindEntry(const std::filesystem::path& file) const;
     // The entry whose form has this class, nil when there is none. Reads the heads of the form files at the
@@ -42,6 +42,11 @@ public:
         std::optional<std::string> parent; // class, when somebody has looked it up
     };
     std::vector<Descendant>& Descendants();
+
+    bool HasForm(const FormNames& names);
+    // Renames the form of a listed unit in the project's source, and in what is known of it.
+    void RenameForm(const std::filesystem::path& unit, const FormNames& from, const FormNames& to);
+    PlainSourceEditor* OpenedSource() { return source_ ? &source_->Editor() : nullptr; } // nil while nobody asked for it
 
     std::vector<FileChange> Changes() override;
     void MarkSaved(const std::vector<FileChange>& changes) override;

@@ -16,6 +16,7 @@ public:
     std::string_view Text() const {
         return AtEnd() ? std::string_view{} : text_.substr(Begin(), tokens_[next_].end - Begin());
     }
+    std::string_view All() const { return text_; }
     void Next() { ++next_; }
     void SkipRemarks() {
         while (Kind() == TokenKind::Comment || Kind() == TokenKind::Directive)
@@ -49,7 +50,7 @@ std::string_view CommentContent(std::string_view comment) {
 }
 
 // {Form1} or {DataModule1: TDataModule}; any other comment is none of the project's.
-void Annotate(ListedUnit& unit, std::string_view comment) {
+void Annotate(ListedUnit& unit, std::string_view text, std::string_view comment) {
     const std::string_view content = CommentContent(comment);
     const std::size_t colon = content.find(':');
     const std::string_view name = TrimRight(content.substr(0, colon));
@@ -58,6 +59,8 @@ void Annotate(ListedUnit& unit, std::string_view comment) {
     if (!IsIdentifier(name) || (typed && !IsIdentifier(type))) return;
     unit.formName = name;
     unit.designClass = type;
+    unit.formBegin = static_cast<std::size_t>(name.data() - text.data());
+    unit.formEnd = unit.formBegin + name.size();
 }
 
 std::string DottedName(Reader& reader) {
@@ -82,7 +85,7 @@ void ReadUsesClause(Reader& reader, std::vector<ListedUnit>& units) {
             }
         }
         for (; reader.Kind() == TokenKind::Comment || reader.Kind() == TokenKind::Directive; reader.Next())
-            if (reader.Kind() == TokenKind::Comment && unit.formName.empty()) Annotate(unit, reader.Text());
+            if (reader.Kind() == TokenKind::Comment && unit.formName.empty()) Annotate(unit, reader.All(), reader.Text());
         if (!unit.path.empty()) units.push_back(std::move(unit));
         if (!reader.AtEnd() && reader.Text() != ";") reader.Next();
     }
@@ -107,17 +110,22 @@ const UseMacro* FindUseMacro(std::string_view name) {
 
 // USEFORM("dir\Unit.cpp", Form1); /* TDataModule: File Type */
 std::optional<ListedUnit> ReadUseMacro(Reader& reader, const UseMacro& macro) {
-    std::vector<std::string> arguments;
+    std::vector<std::string_view> arguments;
     if (!reader.Take("(")) return {};
     for (; !reader.AtEnd() && reader.Text() != ")" && reader.Text() != ";"; reader.Next())
         if (reader.Kind() == TokenKind::String || reader.Kind() == TokenKind::Identifier)
-            arguments.push_back(Unquoted(reader.Text(), '"'));
+            arguments.push_back(reader.Text());
     reader.Next();
     if (reader.Text() == ";") reader.Next();
     if (arguments.empty()) return {};
-    ListedUnit unit{WrittenStem(arguments[0]), arguments[0], {}, std::string(macro.designClass)};
-    if (macro.formArgument > 0 && macro.formArgument < arguments.size())
-        unit.formName = arguments[macro.formArgument];
+    const std::string path = Unquoted(arguments[0], '"');
+    ListedUnit unit{WrittenStem(path), path, {}, std::string(macro.designClass)};
+    if (macro.formArgument > 0 && macro.formArgument < arguments.size()) {
+        const std::string_view form = arguments[macro.formArgument];
+        unit.formName = Unquoted(form, '"');
+        unit.formBegin = static_cast<std::size_t>(form.data() - reader.All().data());
+        unit.formEnd = unit.formBegin + form.size();
+    }
     if (reader.Kind() == TokenKind::Comment) {
         const std::string_view content = CommentContent(reader.Text());
         const std::string_view type = TrimRight(content.substr(0, content.find(':')));
@@ -156,6 +164,16 @@ ProjectListing ListUseMacros(std::string_view text) {
         if (auto unit = ReadUseMacro(reader, *macro)) result.units.push_back(std::move(*unit));
     }
     return result;
+}
+
+void AddListedRename(TextEdits& edits, std::string_view text, bool isCpp, std::string_view unit,
+                     const std::string& newName) {
+    for (const ListedUnit& listed : (isCpp ? ListUseMacros(text) : ListDelphiSource(text)).units) {
+        if (listed.formEnd == 0 || listed.formName == newName || !SameText(WrittenStem(listed.path), unit)) continue;
+        const bool known = std::any_of(edits.begin(), edits.end(),
+                                       [&](const TextEdit& edit) { return edit.begin == listed.formBegin; });
+        if (!known) edits.push_back({listed.formBegin, listed.formEnd, newName});
+    }
 }
 
 } // namespace glotta

@@ -22,7 +22,7 @@ std::size_t MovedBy(const UnitEdits& edits, std::size_t byte) {
 UnitBuffer::UnitBuffer(UnitText unit) : unit_(std::move(unit)) {}
 
 bool UnitBuffer::Apply(std::vector<TextEdits> groups) {
-    Step inverse;
+    Groups inverse;
     lastStep_.clear();
     for (TextEdits& group : groups) {
         UnitEdits edits = NormalizedEdits(unit_.text, std::move(group));
@@ -33,8 +33,7 @@ bool UnitBuffer::Apply(std::vector<TextEdits> groups) {
     if (inverse.empty()) return false;
     if (savedStep_ != std::string::npos && savedStep_ > undo_.size()) savedStep_ = std::string::npos;
     redo_.clear();
-    undo_.push_back(std::move(inverse));
-    ++version_;
+    undo_.push_back({++version_, std::move(inverse)});
     return true;
 }
 
@@ -45,7 +44,7 @@ bool UnitBuffer::ApplyJoined(std::vector<TextEdits> groups) {
     Step newest = std::move(undo_.back());
     undo_.pop_back();
     Step& former = undo_.back();
-    std::move(former.begin(), former.end(), std::back_inserter(newest));
+    std::move(former.groups.begin(), former.groups.end(), std::back_inserter(newest.groups));
     former = std::move(newest);
     return true;
 }
@@ -67,11 +66,11 @@ bool UnitBuffer::Redo() {
 }
 
 void UnitBuffer::Change(Step step, std::vector<Step>& inverseTo) {
-    Step inverse;
-    for (const UnitEdits& edits : step)
+    Groups inverse;
+    for (const UnitEdits& edits : step.groups)
         inverse.insert(inverse.begin(), ApplyUnitEdits(unit_, edits));
-    inverseTo.push_back(std::move(inverse));
-    lastStep_ = std::move(step);
+    inverseTo.push_back({step.id, std::move(inverse)});
+    lastStep_ = std::move(step.groups);
     ++version_;
 }
 

@@ -29,6 +29,10 @@ public:
     bool Undo();
     bool Redo();
 
+    // By which steps are known, wherever undo and redo lead; 0 for none. What joins a step makes it another one.
+    std::size_t NewestStep() const { return undo_.empty() ? 0 : undo_.back().id; }
+    std::size_t UndoneStep() const { return redo_.empty() ? 0 : redo_.back().id; }
+
     bool Modified() const { return savedStep_ != undo_.size(); }
     void MarkSaved() { savedStep_ = undo_.size(); }
     // The file holds something else by now: no undo leads back to it.
@@ -52,12 +56,16 @@ private:
     };
     const LineIndex& Lines() const;
     std::size_t LineOfByte(std::size_t byte) const;
-    using Step = std::vector<UnitEdits>; // groups, in order of application
+    using Groups = std::vector<UnitEdits>; // in order of application
+    struct Step {
+        std::size_t id;
+        Groups groups;
+    };
     void Change(Step step, std::vector<Step>& inverseTo);
 
     UnitText unit_;
     std::vector<Step> undo_, redo_;
-    Step lastStep_;
+    Groups lastStep_;
     std::size_t version_ = 1;
     std::size_t savedStep_ = 0; // npos: no undo leads back to what was saved
     mutable LineIndex lines_;

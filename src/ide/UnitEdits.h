@@ -59,6 +59,17 @@ std::string FindMethod(std::string_view header, std::string_view className, std:
 
 } // namespace cpp
 
+// --- names, in either language -------------------------------------------------------------------------------------
+
+struct FormNames {
+    std::string name, className; // "Form1", "TForm1"
+};
+// The form's class and its global variable, wherever the code of its unit or of a project source names them.
+TextEdits RenameForm(std::string_view text, bool isCpp, const FormNames& from, const FormNames& to);
+// Whether the code uses the name for anything but a member of something.
+bool Mentions(std::string_view text, bool isCpp, std::string_view name);
+bool DeclaresMember(std::string_view text, bool isCpp, std::string_view className, std::string_view name);
+
 // --- method bodies, in either language -----------------------------------------------------------------------------
 
 // The body of a method in a unit: `open` is just behind its begin (or "{"), `close` at its end (or "}").

@@ -159,10 +159,16 @@ void CollectNodes(const FormNode& node, std::unordered_set<const FormNode*>& nod
         CollectNodes(*child, nodes);
 }
 
-bool EraseNode(FormNode& parent, const FormNode& node) {
-    if (std::erase_if(parent.children, [&](const auto& child) { return child.get() == &node; }) > 0) return true;
-    return std::any_of(parent.children.begin(), parent.children.end(),
-                       [&](const auto& child) { return EraseNode(*child, node); });
+std::unique_ptr<FormNode> TakeNode(FormNode& parent, const FormNode& node) {
+    for (auto child = parent.children.begin(); child != parent.children.end(); ++child) {
+        std::unique_ptr<FormNode> taken = child->get() == &node ? std::move(*child) : nullptr;
+        if (taken)
+            parent.children.erase(child);
+        else
+            taken = TakeNode(**child, node);
+        if (taken) return taken;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -175,8 +181,7 @@ void ComponentTree::Remove(TComponent& component) {
     const auto isGone = [&](const TComponent& each) { return gone.contains(&each.node_); };
     for (const auto& each : all_)
         std::erase_if(each->owned_, [&](const TComponent* owned) { return isGone(*owned); });
-    std::erase_if(all_, [&](const auto& each) { return isGone(*each); });
-    EraseNode(root_->Node(), node);
+    if (auto taken = TakeNode(root_->Node(), node)) detached_.push_back(std::move(taken));
 }
 
 // A component that is not seen at run time lies on the form as an icon; it gets a place where none lies yet.

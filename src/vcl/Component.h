@@ -59,6 +59,7 @@ public:
 
 private:
     friend class ComponentTree;
+    friend class FormSnapshot;
     friend class PublishedObject;
     std::string_view CatalogueClass() const;
     ComponentTree& tree_;
@@ -88,7 +89,8 @@ public:
 
     // Adds a child to the root's node, owned by the root. Throws Error when `name` is taken or no identifier.
     TComponent& Create(std::string className, std::string name);
-    // Takes a component other than the root off the form, with what it contains.
+    // Takes a component other than the root off the form, with what it contains. The objects live on: undo brings them
+    // back.
     void Remove(TComponent& component);
     // The name that the IDE gives: the class name without its leading T and the first free number from 1
     // ("Glotta1").
