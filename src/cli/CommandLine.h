@@ -16,4 +16,11 @@ struct CommandLine {
     std::function<int()>& run; // set by the subcommand that was given; the result is the exit code
 };
 
+void AddCheckCommand(const CommandLine& line);
+void AddFindCommand(const CommandLine& line);
+void AddOptionsCommand(const CommandLine& line);
+void AddRenameCommand(const CommandLine& line);
+void AddReplacePhraseCommand(const CommandLine& line);
+void AddTranslationsCommands(const CommandLine& line); // save, load, merge, update, clear
+
 } // namespace glotta

@@ -48,7 +48,13 @@ int Run(std::vector<std::string> arguments) {
     app.add_option("--encoding", global.encoding, "The encoding of units without a byte order mark (windows-1251, utf-8, ...)");
 
     std::function<int()> run;
-    [[maybe_unused]] const CommandLine line{app, global, run};
+    const CommandLine line{app, global, run};
+    AddCheckCommand(line);
+    AddFindCommand(line);
+    AddOptionsCommand(line);
+    AddRenameCommand(line);
+    AddReplacePhraseCommand(line);
+    AddTranslationsCommands(line);
     ScanCommandOptions scan;
     CLI::App* scanApp = app.add_subcommand("scan", "List the hard-coded strings of units, folders or projects");
     AddScan(*scanApp, scan);

@@ -1,11 +1,13 @@
 // The IDE as the expert sees it. A host implements these; the expert calls nothing else of it. Pointers are the
 // host's: valid while the object they name is open; nil means "not there". Text is UTF-8 with CR LF line ends.
 #pragma once
+#include "platform/Encoding.h"
 #include "vcl/Component.h"
 #include "vcl/Menu.h"
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -166,6 +168,8 @@ class IOTAProject : public IOTAModule {
 public:
     virtual const std::vector<IOTAModuleInfo>& Modules() const = 0;
     virtual bool IsCpp() const = 0;
+    // How the project's files are encoded where they do not tell themselves.
+    virtual std::optional<Encoding> EncodingHint() const { return {}; }
 };
 
 class IOTAProjectGroup : public IOTAModule {
@@ -261,20 +265,20 @@ public:
     virtual void RegisterPackageWizard(std::shared_ptr<IOTAWizard> wizard) = 0;
 };
 
+class IDesignServices; // ide/DesignIntf.h
+
 // All services of a running IDE. Those that a host does not offer are nil.
 struct BorlandIDEServices {
     IOTAModuleServices& modules;
     IOTAActionServices& actions;
-class IDesignServices; // ide/DesignIntf.h
-
     IOTAServices* services = nullptr;
     INTAServices* menus = nullptr;
     IOTAWizardServices* wizards = nullptr;
+    IDesignServices* design = nullptr;
 };
 
 // The module's nature: modules, projects and groups are told apart by the interface they offer.
 inline IOTAProject* AsProject(IOTAModule* module) { return dynamic_cast<IOTAProject*>(module); }
-    IDesignServices* design = nullptr;
 inline IOTAProjectGroup* AsProjectGroup(IOTAModule* module) { return dynamic_cast<IOTAProjectGroup*>(module); }
 
 } // namespace glotta

@@ -11,7 +11,7 @@ namespace {
 
 class BinaryReader {
 public:
-    BinaryReader(const std::filesystem::path& file) : file_(file), bytes_(ReadFile(file)) {}
+    BinaryReader(const std::filesystem::path& file, std::string_view bytes) : file_(file), bytes_(bytes) {}
 
     bool Empty() const { return bytes_.empty(); }
     void Restart() { pos_ = 0; }
@@ -20,7 +20,7 @@ public:
             throw Error(PathText(file_) + ": byte " + std::to_string(pos_) +
                         ": the dictionary ends too early");
         pos_ += count;
-        return std::string_view(bytes_).substr(pos_ - count, count);
+        return bytes_.substr(pos_ - count, count);
     }
     std::uint32_t Word() {
         const std::string_view bytes = Take(4);
@@ -31,8 +31,8 @@ public:
     }
 
 private:
-    std::filesystem::path file_;
-    std::string bytes_;
+    const std::filesystem::path& file_;
+    std::string_view bytes_;
     std::size_t pos_ = 0;
 };
 
@@ -47,8 +47,18 @@ std::string FromUtf16Bytes(std::string_view bytes) {
 } // namespace
 
 std::vector<std::string> ReadDicLanguages(const std::filesystem::path& file) {
+    return ParseDicLanguages(file, ReadFile(file));
+}
+
+std::vector<std::string> ReadDixLanguages(const std::filesystem::path& file) {
+    std::error_code failed;
+    if (!std::filesystem::exists(file, failed)) return {};
+    return ParseDixLanguages(ReadFile(file));
+}
+
+std::vector<std::string> ParseDicLanguages(const std::filesystem::path& file, std::string_view bytes) {
     std::vector<std::string> names;
-    BinaryReader reader(file);
+    BinaryReader reader(file, bytes);
     if (reader.Empty()) return names;
     if (reader.Word() == 0) {
         reader.Word();
@@ -62,12 +72,9 @@ std::vector<std::string> ReadDicLanguages(const std::filesystem::path& file) {
     return names;
 }
 
-std::vector<std::string> ReadDixLanguages(const std::filesystem::path& file) {
+std::vector<std::string> ParseDixLanguages(std::string_view bytes) {
     constexpr std::string_view Open = "<LANGUAGE>", Close = "</LANGUAGE>";
     std::vector<std::string> names;
-    std::error_code failed;
-    if (!std::filesystem::exists(file, failed)) return names;
-    const std::string bytes = ReadFile(file);
     const std::vector<std::string> lines = SplitLines(Decode(bytes, DetectEncoding(bytes)));
     auto line = std::find(lines.begin(), lines.end(), "<HEAD>");
     for (; line != lines.end() && *line != "</HEAD>"; ++line) {

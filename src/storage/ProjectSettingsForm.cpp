@@ -1,5 +1,6 @@
 #include "storage/ProjectSettingsForm.h"
 
+#include "platform/Error.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 #include "storage/DictionaryLanguages.h"
@@ -97,7 +98,11 @@ void TfrmProjectTranslationSettings::Fill(const TGlottaProjectSettings& settings
         }
         ++control;
     }
-    DictionaryChanged();
+    try {
+        DictionaryChanged();
+    } catch (const Error& error) { // the dialog is where another dictionary can be chosen
+        ui_.MessageDlg(error.what(), MsgType::Error);
+    }
 }
 
 void TfrmProjectTranslationSettings::WriteTo(TGlottaProjectSettings& settings) const {
@@ -128,10 +133,9 @@ void TfrmProjectTranslationSettings::CheckBaseLanguage() {
     imWarning.Set(!language.empty() && !baseLanguages_.Empty() && baseLanguages_.IndexOf(language) < 0);
 }
 
-void TfrmProjectTranslationSettings::SwitchPage() {
-    const bool toProject = sbDictionary();
-    sbDictionary.Set(!toProject);
-    sbProject.Set(toProject);
+void TfrmProjectTranslationSettings::ShowPage(bool project) {
+    sbDictionary.Set(!project);
+    sbProject.Set(project);
 }
 
 void DisplayEditDialog(Ui& ui, TGlottaProjectSettings& settings, std::vector<std::string> formNames) {

@@ -5,6 +5,7 @@
 #include "storage/Projectsettings.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace glotta {
@@ -29,12 +30,15 @@ public:
     TAction btTranslationFile;
 
     TField<bool> sbDictionary{true}, sbProject; // the page whose button is down shows
+    static constexpr std::string_view SectionsHint =
+        "Press Ctrl+Tab to switch pages"; // of the panel with both
     TAction btOK, btCancel;
 
     const TStringList& BaseLanguages() const { return baseLanguages_; }
     const TStringList& FormNames() const { return formNames_; }
 
-    void SwitchPage(); // Ctrl+Tab
+    void SwitchPage() { ShowPage(sbDictionary()); } // Ctrl+Tab
+    void ShowPage(bool project);
     // Writes every option back, in the order of the options.
     void WriteTo(TGlottaProjectSettings& settings) const;
 

@@ -8,9 +8,15 @@
 
 namespace glotta {
 
+// Stops a long run after so many steps; -1: never.
+struct StoppingUi : ScriptedUi {
+    int steps = -1;
+    bool Cancelled() override { return steps >= 0 && steps-- == 0; }
+};
+
 struct TranslationDesk {
     TempFolder folder;
-    ScriptedUi ui;
+    StoppingUi ui;
     PlainIde ide;
     FormsList forms;
     IdeServices services{ide.Services(), forms, ui};
