@@ -6,6 +6,7 @@
 #include "platform/Files.h"
 #include "runtime/TransEditor.h"
 #include "scanner/SourceMarks.h"
+#include "storage/IdentifierRename.h"
 #include "storage/Projectsettings.h"
 
 #include <utility>
@@ -25,6 +26,10 @@ TGlottaExpert::TGlottaExpert(ExpertPorts ports)
             return ShowStringInSource(services_, id, activate);
         };
         editor->ShowAboutBox = [this] { ShowAboutBox(); };
+        editor->OnChangeStrID = [this](const std::string& formName, const std::string& oldID,
+                                       const std::string& newID) {
+            IdentifierRename(services_).OnChangeStrID(formName, oldID, newID);
+        };
     }
     InstallEditorPopupMenu();
 }
@@ -40,6 +45,7 @@ TGlottaExpert::~TGlottaExpert() {
     if (TransEditor* editor = ports_.transEditor) {
         editor->NavigateToSource = {};
         editor->ShowAboutBox = {};
+        editor->OnChangeStrID = {};
     }
     if (window_) window_->Close(ports_.ui, ModalResult::Cancel);
     RunCommand([this] { DestroyProjectSettings(); });

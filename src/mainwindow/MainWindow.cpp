@@ -9,6 +9,8 @@
 #include "platform/Text.h"
 #include "runtime/TransEditor.h"
 #include "settings/ExpertSettings.h"
+#include "storage/FoundPhrases.h"
+#include "storage/_badidsform.h"
 
 #include <algorithm>
 

@@ -23,6 +23,7 @@ class AutomationObject;
 class ExpertSettings;
 class Launcher;
 class RegistryStore;
+class TfrmBadIDs;
 class TfrmFoundPhrases;
 class TGlottaProjectSettings;
 class TransEditor;
@@ -179,6 +180,7 @@ private:
     FormTranslation translation_;
     std::unique_ptr<TfrmSkippedStrings> skippedForm_;
     std::unique_ptr<TfrmFoundPhrases> foundPhrases_;
+    std::unique_ptr<TfrmBadIDs> badIDs_;
     std::unique_ptr<AutomationObject> server_;
     std::vector<BoundItem> bound_;
     std::string componentClass_;

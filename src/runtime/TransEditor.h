@@ -33,7 +33,8 @@ public:
     std::function<void()> ShowAboutBox;
     // A string's identifier was changed and is to be changed in the source; without it the source stays as it
     // is.
-    std::function<void(const std::string& before, const std::string& id)> OnChangeStrID;
+    std::function<void(const std::string& formName, const std::string& before, const std::string& id)>
+        OnChangeStrID;
 };
 
 } // namespace glotta

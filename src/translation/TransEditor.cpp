@@ -314,7 +314,7 @@ void TfrmTransEditor::TakeBack() {
 void TfrmTransEditor::Write() {
     if (hooks_.OnChangeStrID)
         for (const auto& [before, id] : renamed_)
-            hooks_.OnChangeStrID(before, id);
+            hooks_.OnChangeStrID(component_.Tree().Root().Name(), before, id);
     texts_.WriteTo(component_);
     for (int kind = 0; kind < StringsTypeCount; ++kind)
         changed_ = changed_ || component_.Strings(TStringsType(kind)).Items() != before_[std::size_t(kind)];

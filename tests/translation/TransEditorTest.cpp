@@ -185,8 +185,8 @@ TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
         EXPECT_TRUE(form.sgTexts.Enter(0, 0, "IDS_9"));
     }));
     std::string log;
-    desk.dialog.OnChangeStrID = [&](const std::string& before, const std::string& id) {
-        log += before + ">" + id + ";";
+    desk.dialog.OnChangeStrID = [&](const std::string& form, const std::string& before, const std::string& id) {
+        log += form + "." + before + ">" + id + ";";
     };
     desk.dialog.NavigateToSource = [&](const std::string& id, bool) {
         log += "show " + id + ";";
@@ -200,7 +200,7 @@ TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
         form.sgTexts.SelectOnly(1);
         form.acNavigate.Execute();
     }));
-    EXPECT_EQ(log, "show ids_10;show IDS_2;IDS_9>IDS_10;IDS_10>ids_10;");
+    EXPECT_EQ(log, "show ids_10;show IDS_2;Form1.IDS_9>IDS_10;Form1.IDS_10>ids_10;");
     EXPECT_EQ(desk.Records(stStrings), "ids_10|One||;IDS_2|Two\nlines||;");
 }
 
