@@ -335,6 +335,15 @@ EncodeResult Encode(std::string_view text, const Encoding& encoding) {
     return result;
 }
 
+std::string WellFormed(std::string text) {
+    for (std::size_t bad = 0; (bad = FindMalformed(text, bad)) < text.size();) {
+        std::string raw;
+        AppendRawByte(raw, text[bad]);
+        text.replace(bad, 1, raw);
+    }
+    return text;
+}
+
 bool HasRawCharacters(std::string_view text) {
     for (std::size_t pos = text.find('\xF4'); pos != std::string_view::npos;
          pos = text.find('\xF4', pos + 1)) {

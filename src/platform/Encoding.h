@@ -36,6 +36,8 @@ struct EncodeResult {
     std::optional<char32_t> unencodable;
 };
 EncodeResult Encode(std::string_view text, const Encoding& encoding);
+// The text with such characters for its malformed bytes.
+std::string WellFormed(std::string text);
 // The text holds characters that stand for bytes which are none in the encoding it came from.
 bool HasRawCharacters(std::string_view text);
 bool CanEncode(std::string_view text, const Encoding& encoding);

@@ -72,6 +72,15 @@ std::size_t CharLength(std::string_view text, std::size_t pos) {
     return overlong || outside ? 0 : length;
 }
 
+std::size_t FindMalformed(std::string_view text, std::size_t pos) {
+    while ((pos = FindNonAscii(text, pos)) < text.size()) {
+        const std::size_t length = CharLength(text, pos);
+        if (length == 0) break;
+        pos += length;
+    }
+    return pos;
+}
+
 std::size_t CharCount(std::string_view text) {
     std::size_t continuations = 0, pos = 0;
     for (; pos + sizeof(Word) <= text.size(); pos += sizeof(Word))

@@ -22,6 +22,8 @@ bool IsAscii(std::string_view text);
 std::size_t FindNonAscii(std::string_view text, std::size_t pos = 0);
 // Bytes of the well-formed character at byte `pos` (pos < size); 0 when the bytes there are malformed.
 std::size_t CharLength(std::string_view text, std::size_t pos);
+// Offset of the first byte from `pos` on that begins no well-formed character; the text's size when there is none.
+std::size_t FindMalformed(std::string_view text, std::size_t pos = 0);
 
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);

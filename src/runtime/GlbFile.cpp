@@ -1,6 +1,5 @@
 #include "runtime/GlbFile.h"
 
-#include "platform/Encoding.h"
 #include "platform/Error.h"
 #include "runtime/Crc32.h"
 #include "runtime/Record.h"
@@ -26,10 +25,8 @@ void AppendNumber(std::string& bytes, std::size_t value) {
 }
 
 void AppendText(std::string& bytes, const std::string& text) {
-    // Bytes that are no UTF-8 become what stands for them in every text that is decoded.
-    const std::string valid = Decode(text, {EncodingKind::Utf8});
-    AppendNumber(bytes, valid.size());
-    bytes += valid;
+    AppendNumber(bytes, text.size());
+    bytes += text;
 }
 
 void AppendTexts(std::string& bytes, const std::vector<std::string>& texts, std::size_t first = 0) {
@@ -113,11 +110,8 @@ public:
     std::string Text() {
         const std::size_t length = Number(), begin = at_;
         const std::string_view bytes = Bytes(length);
-        for (std::size_t pos = 0; (pos = FindNonAscii(bytes, pos)) < bytes.size();) {
-            const std::size_t size = CharLength(bytes, pos);
-            if (size == 0) Fail(begin + pos, "this is no UTF-8");
-            pos += size;
-        }
+        if (const std::size_t bad = FindMalformed(bytes); bad < bytes.size())
+            Fail(begin + bad, "this is no UTF-8");
         return std::string(bytes);
     }
 

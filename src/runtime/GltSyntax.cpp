@@ -18,7 +18,9 @@ constexpr Letter Letters[] = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'s', ' '}}
 constexpr char NothingLetter = 'e'; // an empty text where nothing would be lost
 constexpr char NoTextsDigit = '0';  // a record without texts
 
+// Stands behind the escape character as it is. Not "=", which ends the name of a line wherever it is.
 bool IsPunctuation(char32_t c) {
+    if (c == '=') return false;
     return (c > ' ' && c < '0') || (c > '9' && c < 'A') || (c > 'Z' && c < 'a') || (c > 'z' && c < 0x7F);
 }
 
@@ -73,9 +75,8 @@ std::string Escaped(std::string_view text, std::string_view escape, std::string_
             continue;
         }
         const bool ascii = static_cast<unsigned char>(rest[0]) < 0x80;
-        char32_t c = NextChar(text, pos);
+        const char32_t c = NextChar(text, pos);
         const std::string_view bytes = text.substr(begin, pos - begin);
-        if (!ascii && CharLength(text, begin) == 0) c = 0x10FE00 + static_cast<unsigned char>(bytes[0]);
         if (IsInvisible(c) || (!ascii && HasRawCharacters(bytes)) || must(rest, begin == 0, delimiter))
             AppendEscaped(out, escape, c);
         else

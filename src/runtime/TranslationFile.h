@@ -13,7 +13,7 @@ public:
     // Nothing when the file does not hold the form.
     const FormTranslations* Find(std::string_view form) const;
     // Adds or replaces one form.
-    void Put(std::string_view form, const FormTranslations& translations);
+    void Put(std::string_view form, FormTranslations translations);
     virtual std::string ToBytes() = 0;
     // Whether it is not what was read.
     bool Changed() const { return changed_; }

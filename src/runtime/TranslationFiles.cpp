@@ -47,15 +47,15 @@ const FormTranslations* TranslationFiles::FindBinary(const std::string& fileName
 }
 
 void TranslationFiles::PutText(const std::string& fileName, std::string_view delimiter, std::string_view form,
-                               const FormTranslations& translations) {
+                               FormTranslations translations) {
     GltFile& file = static_cast<GltFile&>(Opened(fileName, false, true));
     file.SetDelimiter(delimiter);
-    file.Put(form, translations);
+    file.Put(form, std::move(translations));
 }
 
 void TranslationFiles::PutBinary(const std::string& fileName, std::string_view form,
-                                 const FormTranslations& translations) {
-    Opened(fileName, true, true).Put(form, translations);
+                                 FormTranslations translations) {
+    Opened(fileName, true, true).Put(form, std::move(translations));
 }
 
 void TranslationFiles::Flush() {

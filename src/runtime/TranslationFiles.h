@@ -33,8 +33,8 @@ public:
     const FormTranslations* FindBinary(const std::string& fileName, std::string_view form);
     // The file is written by Flush.
     void PutText(const std::string& fileName, std::string_view delimiter, std::string_view form,
-                 const FormTranslations& translations);
-    void PutBinary(const std::string& fileName, std::string_view form, const FormTranslations& translations);
+                 FormTranslations translations);
+    void PutBinary(const std::string& fileName, std::string_view form, FormTranslations translations);
 
     // Writes every file that something new was put into since, each atomically. Throws Error.
     void Flush();
