@@ -37,6 +37,7 @@ std::string_view Phrase(Reason reason) {
         "single character, may be a Char",
         "label of a case statement",
         "argument that is a pointer",
+        "assigned to a PChar: typecast the call",
         "at file or class scope",
         "default argument",
         "static initialiser",

@@ -30,16 +30,20 @@ private:
         switch (token.kind) {
         case TokenKind::Identifier: {
             const Word word = s_.before == '.' ? Word::None : wordTable.Find(TextOf(token));
+            if (s_.section == Section::Heading && s_.depth == 0 && s_.before == ':')
+                s_.resultIsPChar = IsPCharType(TextOf(token));
             if (s_.header) TakeInHeader(word, AWord);
             if (word != Word::None) TakeWord(word, token);
             s_.word = word;
             s_.before = AWord;
             arguments_.TakeWord(TextOf(token));
+            pointers_.TakeWord(TextOf(token), IsStatement(s_.frame));
             return;
         }
         case TokenKind::Symbol: {
             const char symbol = Symbol(token);
             arguments_.TakeSymbol(symbol);
+            pointers_.TakeSymbol(symbol, IsStatement(s_.frame));
             if (s_.header) TakeInHeader(Word::None, symbol);
             TakeSymbol(symbol, token);
             s_.word = symbol == '.' ? Word::None : s_.word;
@@ -67,6 +71,7 @@ private:
             s_.header = false;
             s_.before = ANumber;
             arguments_.TakeOther();
+            pointers_.TakeOther();
         }
     }
 
@@ -75,9 +80,12 @@ private:
         if (place.reason == Reason::None || place.reason == Reason::SingleCharacter)
             place.routine = arguments_.Routine();
         if (place.routine) place.reason = Reason::PCharArgument;
+        if (place.reason == Reason::None && pointers_.AssignsToPChar(s_.resultIsPChar))
+            place.reason = Reason::PCharVariable;
         out_.places.push_back(place);
         s_.before = ALiteral;
         arguments_.TakeOther();
+        pointers_.TakeOther();
     }
 
     char Symbol(const Token& token) const {
@@ -308,6 +316,8 @@ private:
         }
         s_.section = Section::Heading;
         s_.inName = true;
+        s_.resultIsPChar = false;
+        pointers_.BeginRoutine();
     }
     // "procedure TForm1.": no such routine is nested in another, so a body was missing.
     void LeaveOuterRoutines() {
@@ -503,7 +513,8 @@ private:
     Walked out_;
     State s_;
     Nesting<State> nesting_;
-    PCharArguments arguments_{false};
+    PCharDeclarations pointers_;
+    PCharArguments arguments_{pointers_};
 };
 
 } // namespace

@@ -147,6 +147,7 @@ struct State {
     bool inlineConst = false;
     bool inName = false; // Routine: between "procedure" and what follows the name
     bool isPackage = false;
+    bool resultIsPChar = false; // of the routine
 };
 
 inline bool IsStatement(Frame frame) {

@@ -31,6 +31,7 @@ enum class Reason : std::uint8_t {
     SingleCharacter,
     CaseLabel,
     PCharArgument,
+    PCharVariable,
     // C/C++
     FileScope,
     DefaultArgument,

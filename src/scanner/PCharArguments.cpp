@@ -197,7 +197,8 @@ constexpr Routine routines[] = {
     {"atoi", All, true},
     {"atof", All, true},
 };
-static_assert(std::size(routines) < 256);
+constexpr std::uint8_t OwnRoutine = 255;
+static_assert(std::size(routines) < OwnRoutine);
 
 using Numbers = std::unordered_map<std::string_view, std::uint8_t, TextHash, TextEqual>;
 
@@ -253,6 +254,7 @@ PCharArguments::Group PCharArguments::Opened() const {
 std::uint8_t PCharArguments::Routine() const {
     if (open_.empty() || open_.back().routine.empty() || open_.back().argument > 31) return 0;
     const std::uint8_t number = NumberOf(open_.back().routine, isCpp_);
+    if (!number && own_ && own_->IsPCharParameter(open_.back().routine, open_.back().argument)) return OwnRoutine;
     return number && (routines[number - 1].pointers >> open_.back().argument & 1) ? number : 0;
 }
 
@@ -266,6 +268,7 @@ std::string_view PCharArguments::Note(std::uint8_t routine, bool isCpp) {
                                       : " is a PChar: typecast the call"));
         return result;
     }();
+    if (routine == OwnRoutine) return "argument is a PChar: typecast the call";
     return notes[routine - 1u + (isCpp ? std::size(routines) : 0)];
 }
 

@@ -1,6 +1,8 @@
 // Arguments of well-known routines that are pointers to characters. A literal converts to such a pointer by
 // itself, the string that a look-up yields does not.
 #pragma once
+#include "scanner/PCharDeclarations.h"
+
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -11,6 +13,8 @@ namespace glotta {
 class PCharArguments {
 public:
     explicit PCharArguments(bool isCpp) : isCpp_(isCpp) {}
+    // Besides the well-known routines those that the unit declares itself.
+    explicit PCharArguments(const PCharDeclarations& own) : isCpp_(false), own_(&own) {}
 
     void TakeWord(std::string_view word) { word_ = word; }
     void TakeSymbol(char symbol);
@@ -30,6 +34,7 @@ private:
     Group Opened() const;
 
     bool isCpp_;
+    const PCharDeclarations* own_ = nullptr;
     std::string_view word_; // directly before
     std::vector<Group> open_;
 };

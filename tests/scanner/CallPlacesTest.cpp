@@ -92,6 +92,22 @@ TEST(CallPlaces, ArgumentsThatArePointers) {
              "'aa' |'bb' |'cc' "},
         },
         false, "unit U; implementation procedure P; begin ");
+    const std::string to = " assigned to a PChar: typecast the call";
+    const std::string own = " argument is a PChar: typecast the call";
+    Expect({{"var P, Q: PChar; S: string; begin P := 'aa'; R.q := 'bb'; S := 'cc'; P^ := 'dd'; Sei.lpVerb := "
+             "'ee'; P := PChar('ff'); Result := 'gg' end;",
+             "'aa'" + to + "|'bb'" + to + "|'cc' |'dd' |'ee'" + to + "|'ff' |'gg' "},
+            {"var P: PAnsiChar; begin end; procedure R; var P: string; begin P := 'aa' end;", "'aa' "},
+            {"begin end; function F(const S: string): PWideChar; function G: string; begin Result := 'aa' end; "
+             "begin if x then Result := 'bb' else Result := S + 'cc' end;",
+             "'aa' |'bb'" + to + "|'cc' "},
+            {"begin end; procedure R(var U; A, B: PChar; const C: string = ''; D: LPCTSTR = nil); begin end; "
+             "begin R(x, 'aa', PChar('bb'), 'cc', 'dd'); S('ee')",
+             "'' default value of a parameter|'aa'" + own + "|'bb' |'cc' |'dd'" + own + "|'ee' "},
+            {"begin end; procedure R(A: PChar); overload; begin end; procedure R(A: string); overload; begin "
+             "R('aa') end;",
+             "'aa' "}},
+           false, "unit U; implementation procedure Z; ");
     Expect({{"MessageBox(0, _T(\"aa\"), (\"bb\" + s).c_str(), 0); strcpy(b, \"cc\"); f(\"dd\");",
              "\"aa\" argument of MessageBox is a char pointer: add .c_str() to the call|\"bb\" |\"cc\" "
              "argument of strcpy is "

@@ -1,0 +1,120 @@
+#include "scanner/PCharDeclarations.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace glotta {
+namespace {
+
+template <std::size_t Count> bool IsOneOf(std::string_view word, const std::string_view (&words)[Count]) {
+    return std::any_of(std::begin(words), std::end(words),
+                       [word](std::string_view each) { return SameText(word, each); });
+}
+
+// Fields of the records of the Windows programming interface.
+bool IsWindowsPCharField(std::string_view name) {
+    if (name.size() < 5) return false;
+    static constexpr std::string_view prefixes[] = {"lpsz", "lpstr", "psz", "lpwsz", "pwsz"};
+    static constexpr std::string_view names[] = {"lpVerb",         "lpFile",    "lpParameters", "lpDirectory",
+                                                 "lpClass",        "lpDesktop", "lpTitle",      "lpTemplateName",
+                                                 "dwTypeData",     "pDocName",  "pOutputFile",  "pDatatype"};
+    return std::any_of(std::begin(prefixes), std::end(prefixes),
+                       [name](std::string_view prefix) { return StartsWithText(name, prefix); }) ||
+           IsOneOf(name, names);
+}
+
+} // namespace
+
+bool IsPCharType(std::string_view typeName) {
+    static constexpr std::string_view types[] = {"PChar",   "PAnsiChar", "PWideChar", "PUTF8Char", "LPSTR",
+                                                 "LPCSTR",  "LPTSTR",    "LPCTSTR",   "LPWSTR",    "LPCWSTR"};
+    return typeName.size() >= 5 && (typeName[0] | 0x20) <= 'p' && IsOneOf(typeName, types);
+}
+
+void PCharDeclarations::BeginRoutine() {
+    EndList();
+    depth_ = 0;
+}
+
+void PCharDeclarations::TakeWord(std::string_view word, bool isStatement) {
+    target_ = {};
+    if (isStatement) {
+        word_ = word;
+        return;
+    }
+    if (typeFollows_) return TakeType(word);
+    if (!listGoesOn_) names_.clear();
+    listGoesOn_ = false;
+    names_.push_back(word);
+}
+
+void PCharDeclarations::TakeSymbol(char symbol, bool isStatement) {
+    target_ = symbol == '!' ? word_ : std::string_view();
+    word_ = {};
+    if (isStatement) return;
+    switch (symbol) {
+    case ',':
+        listGoesOn_ = true;
+        return;
+    case ':':
+        typeFollows_ = true;
+        return;
+    case '(':
+        if (depth_++ == 0) {
+            routine_ = names_.empty() ? std::string_view() : names_.back();
+            pointers_ = parameters_ = 0;
+        }
+        return EndList();
+    case ')':
+        if (depth_ > 0 && --depth_ == 0) EndParameters();
+        return EndList();
+    case ';':
+        if (depth_ == 1) parameters_ += static_cast<unsigned>(names_.size()); // without a type
+        return EndList();
+    default:
+        typeFollows_ = false;
+    }
+}
+
+void PCharDeclarations::TakeOther() {
+    word_ = target_ = {};
+}
+
+void PCharDeclarations::TakeType(std::string_view type) {
+    const bool isPChar = IsPCharType(type);
+    for (const std::string_view name : names_)
+        if (isPChar)
+            variables_.insert(name);
+        else if (!variables_.empty())
+            variables_.erase(name);
+    if (depth_ == 1)
+        for (std::size_t i = 0; i < names_.size(); ++i, ++parameters_)
+            if (isPChar && parameters_ < 32) pointers_ |= std::uint32_t{1} << parameters_;
+    EndList();
+}
+
+// Of an overloaded routine those parameters count that are pointers in all of its forms.
+void PCharDeclarations::EndParameters() {
+    if (const auto known = routines_.find(routine_); known != routines_.end())
+        known->second &= pointers_;
+    else if (pointers_)
+        routines_.emplace(routine_, pointers_);
+}
+
+void PCharDeclarations::EndList() {
+    names_.clear();
+    listGoesOn_ = typeFollows_ = false;
+}
+
+bool PCharDeclarations::AssignsToPChar(bool inPCharFunction) const {
+    if (target_.empty()) return false;
+    return variables_.contains(target_) || IsWindowsPCharField(target_) ||
+           (inPCharFunction && SameText(target_, "Result"));
+}
+
+bool PCharDeclarations::IsPCharParameter(std::string_view routine, unsigned position) const {
+    const auto found = routines_.find(routine);
+    return found != routines_.end() && position < 32 && (found->second >> position & 1);
+}
+
+} // namespace glotta

@@ -1,0 +1,47 @@
+// What a Pascal unit itself declares to be a PChar: variables and fields, and parameters of its routines. A
+// literal converts to such a pointer by itself, the string that a look-up yields does not.
+#pragma once
+#include "platform/Text.h"
+
+#include <cstdint>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace glotta {
+
+bool IsPCharType(std::string_view typeName);
+
+// Follows the tokens of a unit, directives and comments left out. Of several declarations of a name the last
+// one counts: those of a routine stand directly before its statements.
+class PCharDeclarations {
+public:
+    void BeginRoutine();
+    void TakeWord(std::string_view word, bool isStatement);
+    void TakeSymbol(char symbol, bool isStatement); // '!' is ":="
+    void TakeOther();
+
+    // The next token is assigned to a variable or field that is a PChar. `inPCharFunction` tells it of the
+    // variable Result.
+    bool AssignsToPChar(bool inPCharFunction) const;
+    bool IsPCharParameter(std::string_view routine, unsigned position) const;
+
+private:
+    void TakeType(std::string_view type);
+    void EndParameters();
+    void EndList();
+
+    std::unordered_set<std::string_view, TextHash, TextEqual> variables_;
+    std::unordered_map<std::string_view, std::uint32_t, TextHash, TextEqual> routines_; // bits: positions
+    // Of the declaration at hand
+    std::vector<std::string_view> names_;
+    bool listGoesOn_ = false, typeFollows_ = false;
+    std::string_view routine_;
+    std::uint32_t pointers_ = 0;
+    unsigned depth_ = 0, parameters_ = 0;
+    // Of the statement at hand
+    std::string_view word_, target_;
+};
+
+} // namespace glotta
