@@ -29,6 +29,7 @@ public:
         return parent == None ? top_ : nodes_[std::size_t(parent)].children;
     }
     bool Empty() const { return top_.empty(); }
+    std::size_t Count() const { return nodes_.size(); } // removed ones still have their numbers
     std::vector<int> InOrder() const; // each node before its children
 
     // Filling: `Filled` tells the view, and nothing is current afterwards.

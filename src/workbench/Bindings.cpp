@@ -2,6 +2,7 @@
 
 #include "mainwindow/CommandRunner.h"
 #include "workbench/GridView.h"
+#include "workbench/TreeView.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -87,7 +88,10 @@ void Bindings::Bind(QCheckBox& box, TField<bool>& field) {
 }
 
 void Bindings::Bind(QComboBox& combo, TField<std::string>& field, const std::vector<std::string>& items) {
-    const auto choose = [&] { combo.setCurrentIndex(combo.findText(Q(field()), Qt::MatchExactly)); };
+    const auto choose = [&] {
+        combo.setCurrentIndex(combo.findText(Q(field()), Qt::MatchExactly));
+        if (combo.isEditable() && combo.currentText() != Q(field())) combo.setEditText(Q(field()));
+    };
     Always([&combo, &items, choose, shown = std::vector<std::string>()]() mutable {
         if (shown == items) return;
         const QSignalBlocker quiet(&combo);
@@ -160,6 +164,14 @@ void Bindings::Bind(GridView& view, TGrid& grid) {
     release_.push_back([&grid] { grid.OnView = {}; });
 }
 
+void Bindings::Bind(TreeView& view, TTree& tree) {
+    view.Run = [this](const std::function<void()>& act) { Act(act); };
+    view.OnChanged = [this] { Later(); };
+    view.SetTree(tree);
+    trees_.push_back(&view);
+    release_.push_back([&tree] { tree.OnView = {}; });
+}
+
 void Bindings::BindColumns(GridView& view, TField<std::vector<int>>& widths) {
     Follow(widths, [&] { view.SetColumnWidths(widths()); });
     view.OnWidths = [&] { widths.Enter(view.ColumnWidths()); };
@@ -220,6 +232,12 @@ void Bindings::Forget() {
         view->OnWidths = {};
         view->OnColumn = {};
         view->OnActivated = {};
+        view->OnPopup = {};
+        view->Forget();
+    }
+    for (TreeView* view : std::exchange(trees_, {})) {
+        view->OnChanged = {};
+        view->OnDoubleClick = {};
         view->OnPopup = {};
         view->Forget();
     }

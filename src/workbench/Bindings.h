@@ -3,6 +3,7 @@
 #pragma once
 #include "platform/Form.h"
 #include "platform/Grid.h"
+#include "platform/Tree.h"
 
 #include "workbench/QtText.h"
 
@@ -26,6 +27,7 @@ class QWidget;
 namespace glotta {
 
 class GridView;
+class TreeView;
 
 class Bindings {
 public:
@@ -39,7 +41,7 @@ public:
     void Bind(QPlainTextEdit& memo, TField<std::string>& field); // lines joined by CR LF
     void Bind(QLabel& label, TField<std::string>& field);
     void Bind(QCheckBox& box, TField<bool>& field);
-    // A drop-down list: the chosen text of these items, which may change.
+    // A drop-down list: the chosen text of these items, which may change. An editable one takes any text.
     void Bind(QComboBox& combo, TField<std::string>& field, const std::vector<std::string>& items);
     void Bind(QButtonGroup& group, TField<int>& field); // the id of the checked button
     void Bind(QTabWidget& pages, TField<int>& field);
@@ -47,6 +49,7 @@ public:
     void Bind(QAbstractButton& button, TAction& action);
     void Bind(QAction& item, TAction& action);
     void Bind(GridView& view, TGrid& grid);
+    void Bind(TreeView& view, TTree& tree);
     void BindColumns(GridView& view, TField<std::vector<int>>& widths);
     void BindColumn(GridView& view, TField<int>& column); // the current one
     // Only characters that the filter accepts can be typed.
@@ -72,6 +75,7 @@ private:
     std::vector<std::function<void()>> release_; // touch the form
     std::vector<std::function<void()>> atEnd_;
     std::vector<GridView*> grids_;
+    std::vector<TreeView*> trees_;
     bool pending_ = false;
 };
 

@@ -1,8 +1,16 @@
 #include "workbench/HelpWindow.h"
 
+#include "editors/Excludededitor.h"
+#include "editors/Translationwizard.h"
 #include "scanner/Skippedstrings.h"
 #include "scanner/_scan.h"
 #include "settings/_expopt.h"
+#include "storage/ProjectSettingsForm.h"
+#include "storage/FoundPhrases.h"
+#include "storage/ReplConfirm.h"
+#include "storage/_findphrase.h"
+#include "storage/_badidsform.h"
+#include "storage/_stridrepl.h"
 #include "translation/ConfigureLanguages.h"
 #include "translation/TransEditor.h"
 #include "translation/TranslUnits.h"
@@ -93,11 +101,19 @@ void ShowHelp(std::string_view section, QWidget& over) {
 
 std::string_view OfferHelp(TForm& form, const Show& show) {
     static const std::unordered_map<std::type_index, Topic> topics = {
+        Entry<TfrmBadIDs>("Bad string identifiers"),
         Entry<TfrmConfigureLanguages>("Configure languages"),
+        Entry<TfrmExcludeFromTranslation>("Exclude from translations"),
+        Entry<TfrmFind>("Find and replace phrase"),
         Entry<TfrmFound>("Found strings"),
+        Entry<TfrmFoundPhrases>("Find and replace phrase"),
         Entry<TfrmOptions>("Options"),
+        Entry<TfrmProjectTranslationSettings>("Project settings"),
+        Entry<TfrmReplConfirm>("Find and replace phrase"),
         Entry<TfrmSkippedStrings>("Skipped strings"),
+        Entry<TfrmStrReplace>("Rename of an identifier"),
         Entry<TfrmTransEditor>("Translation editor"),
+        Entry<TfrmTranslationWizard>("Translation wizard"),
         Entry<TfrmTranslUnits>("Unit choice"),
     };
     const auto found = topics.find(typeid(form));

@@ -1,9 +1,18 @@
 #include "workbench/Views.h"
 
+#include "editors/Dntcedit.h"
+#include "editors/Excludededitor.h"
+#include "editors/Translationwizard.h"
 #include "mainwindow/MainWindow.h"
 #include "scanner/Skippedstrings.h"
 #include "scanner/_scan.h"
 #include "settings/_expopt.h"
+#include "storage/ProjectSettingsForm.h"
+#include "storage/FoundPhrases.h"
+#include "storage/ReplConfirm.h"
+#include "storage/_badidsform.h"
+#include "storage/_findphrase.h"
+#include "storage/_stridrepl.h"
 #include "translation/ConfigureLanguages.h"
 #include "translation/TransEditor.h"
 #include "translation/TranslUnits.h"
@@ -26,12 +35,21 @@ template <class Form, View* (*make)(Form&, Ui&, QWidget*)> std::pair<const std::
 
 View* MakeView(TForm& form, Ui& ui, QWidget* parent) {
     static const std::unordered_map<std::type_index, Make> table = {
+        Entry<TfrmBadIDs, MakeBadIDsView>(),
         Entry<TfrmConfigureLanguages, MakeConfigureLanguagesView>(),
+        Entry<TfrmExcludeFromTranslation, MakeExcludeView>(),
+        Entry<TfrmFind, MakeFindPhraseView>(),
         Entry<TfrmFound, MakeFoundView>(),
+        Entry<TfrmFoundPhrases, MakeFoundPhrasesView>(),
         Entry<TfrmGlotta, MakeMainWindowView>(),
+        Entry<TfrmNotTranslate, MakeNotTranslateView>(),
         Entry<TfrmOptions, MakeOptionsView>(),
+        Entry<TfrmProjectTranslationSettings, MakeProjectSettingsView>(),
+        Entry<TfrmReplConfirm, MakeReplConfirmView>(),
         Entry<TfrmSkippedStrings, MakeSkippedStringsView>(),
+        Entry<TfrmStrReplace, MakeStrReplaceView>(),
         Entry<TfrmTransEditor, MakeTransEditorView>(),
+        Entry<TfrmTranslationWizard, MakeTranslationWizardView>(),
         Entry<TfrmTranslUnits, MakeTranslUnitsView>(),
     };
     const auto found = table.find(typeid(form));

@@ -130,7 +130,7 @@ ModalResult ScriptedUi::ShowModal(TForm& form) {
         const ModalResult result = UseNextForm("Modal", form);
         if (form.modalResult != ModalResult::None) // one of the form's own actions closed it
             return form.modalResult;
-        if (form.Close(*this, result)) return result;
+        if (form.Close(*this, result)) return form.modalResult; // which the form may have turned into another
         if (steps_.empty() || steps_.size() == stepsBefore) {
             ADD_FAILURE() << "the form does not close: " << form.caption;
             return result;
