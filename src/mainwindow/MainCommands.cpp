@@ -19,7 +19,8 @@ using W = TfrmGlotta;
 constexpr MainCommand Commands[] = {
     {"sbCaptions", File, Popup, "&Translate", "Translate|Translate selected form(s)", SelectedForms,
      "Ctrl+T", &W::sbCaptionsClick, Button, &W::HasTransEditor},
-    {"Wizard1", File, {}, "&Wizard", "Translation wizard for selected form(s)", SelectedForms},
+    {"Wizard1", File, {}, "&Wizard", "Translation wizard for selected form(s)", SelectedForms, {},
+     &W::Wizard1Click},
     {"sbLanguages", File, Popup, "&Languages...", "Languages|Edit languages of selected form(s)",
      SelectedForms, "Ctrl+G", &W::sbLanguagesClick, Button},
     {"sbSaveForms", SaveLoad, {}, "&Save Selected Form(s)...", "Save form(s)|Save selected forms to file",

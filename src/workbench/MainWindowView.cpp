@@ -27,9 +27,6 @@ public:
         BindList(*c.lvExternalFiles, form.lvExternalFiles);
         bind.BindColumns(*c.lvFormNames, form.ColumnWidths);
         c.lvExternalFiles->SetColumnWidths(form.ColumnWidths());
-        c.lvFormNames->OnActivated = [this](int row) {
-            bind.Act([&] { form.lvFormNamesDblClick(std::size_t(row)); });
-        };
         for (TField<std::string>& panel : form.StatusBar) {
             auto* label = new QLabel(this);
             label->setMinimumWidth(140);
@@ -55,6 +52,9 @@ private:
             static const QIcon icons[] = {QApplication::style()->standardIcon(QStyle::SP_FileIcon),
                                           QApplication::style()->standardIcon(QStyle::SP_DialogApplyButton)};
             return icons[list.ImageIndex(std::size_t(row))];
+        };
+        view.OnActivated = [this](int row) {
+            bind.Act([&] { form.lvFormNamesDblClick(std::size_t(row)); });
         };
         view.OnPopup = [this](const QPoint& at) { PopUp(form.PopupMenu, *this, at); };
     }

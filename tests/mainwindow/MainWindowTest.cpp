@@ -8,7 +8,7 @@
 #include "scanner/_scan.h"
 #include "settings/ExpertSettings.h"
 #include "settings/_expopt.h"
-#include "storage/Projectsettings.h"
+#include "storage/ProjectSettingsForm.h"
 #include "support/DeskFakes.h"
 #include "support/ScriptedUi.h"
 #include "translation/TranslUnits.h"
@@ -128,22 +128,26 @@ TEST(MainWindow, AColumnClickSortsAndTurns) {
 TEST(MainWindow, CommandsAreEnabledByWhatTheirTagsNeed) {
     Desk desk;
     TfrmGlotta& window = desk.Open();
-    const std::string always = "tbAddExternalFile Close1 TranslateUnit1 WithoutForm1 SelectAll1 StayonTop1 "
+    const std::string always = "sbSaveProject sbLoadProject MergeProject1 tbAddExternalFile Close1 "
+                               "TranslateUnit1 WithoutForm1 SelectAll1 StayonTop1 CheckbadstringIDsinunit1 "
                                "DictionaryManager1 sbOptions About1 ";
     EXPECT_EQ(desk.Enabled(window.MainMenu.Items), always);
-    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "tbAddExternalFile sbOptions ");
+    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "sbSaveProject sbLoadProject tbAddExternalFile sbOptions ");
     desk.Select("Data");
     EXPECT_EQ(desk.Enabled(window.MainMenu.Items),
-              "sbCaptions sbLanguages tbAddExternalFile Close1 Translatesource1 TranslateUnit1 Const1 "
-              "WithoutForm1 ViewForm1 SelectAll1 "
-              "StayonTop1 DictionaryManager1 sbOptions About1 ");
+              "sbCaptions Wizard1 sbLanguages sbSaveForms sbSaveProject sbLoadForms sbLoadProject MergeProject1 "
+              "tbAddExternalFile Close1 Translatesource1 TranslateUnit1 Const1 WithoutForm1 ViewForm1 SelectAll1 "
+              "StayonTop1 Findword1 Replacephrase1 Updatetranslation1 ClearTranslations1 Excludeproperties1 "
+              "CheckbadstringIDsinunit1 DictionaryManager1 sbOptions About1 ");
     EXPECT_EQ(
         desk.Enabled(window.PopupMenu.Items),
-        "sbCaptions sbLanguages Translatesource1 Const1 ViewForm1 SelectAll1 StayonTop1 sbOptions About1 ");
+        "sbCaptions sbLanguages Translatesource1 Const1 ViewForm1 SelectAll1 StayonTop1 Updatetranslation1 "
+        "sbOptions About1 ");
     EXPECT_EQ(desk.Enabled(window.ToolBar.Items),
-              "sbCaptions sbLanguages tbAddExternalFile Translatesource1 Const1 ViewForm1 sbOptions ");
+              "sbCaptions sbLanguages sbSaveForms sbSaveProject sbLoadForms sbLoadProject tbAddExternalFile "
+              "Translatesource1 Const1 ViewForm1 Findword1 sbOptions ");
     window.pcForms.Enter(1); // nothing is selected in the list of that page
-    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "tbAddExternalFile sbOptions ");
+    EXPECT_EQ(desk.Enabled(window.ToolBar.Items), "sbSaveProject sbLoadProject tbAddExternalFile sbOptions ");
 
     // Each command stands once per menu; what has no handler is never enabled; names are unique.
     std::set<std::string_view> ids;
@@ -339,6 +343,68 @@ TEST(MainWindow, ExternalFilesHaveTheirOwnPage) {
                   window.lvExternalFiles.CellText(0, FormsGrid::Languages),
               "ExtForm 2");
     EXPECT_EQ(desk.Status(), "Forms count: 5, Units count: 7, Forms translated: 0 of 5");
+}
+
+TEST(MainWindow, TranslationFilesAreOfTheFormsOnThePageThatShows) {
+    Desk desk;
+    TfrmGlotta& window = desk.Open();
+    const auto file = [&](const char* name) { return (desk.folder / name).string(); };
+    window.lvFormNamesDblClick(desk.RowOf("MainForm"));
+    window.lvFormNamesDblClick(desk.RowOf("AboutBox"));
+    desk.ui.File("Select file...", {file("all.glb")});
+    desk.Command("sbSaveProject");
+    desk.Select("MainForm");
+    desk.ui.File("Select file...", {file("one.glt")}).Input("Input delimeter:", "|");
+    desk.Command("sbSaveForms");
+    for (const char* id : {"sbLoadProject", "sbLoadForms", "MergeForms1", "MergeProject1"}) {
+        desk.ui.File("Select file...", {file("all.glb")});
+        desk.Command(id);
+    }
+    for (const char* hint : {"Save project", "Save form(s)", "Load project", "Load form(s)"}) {
+        desk.ui.File("Select file...", {}); // given up
+        window.ToolBar.Items.FindCaption(hint)->Click();
+    }
+    TranslationFiles files;
+    EXPECT_TRUE(files.FindBinary(file("all.glb"), "AboutBox") && files.FindBinary(file("all.glb"), "MainForm"));
+    EXPECT_TRUE(files.FindText(file("one.glt"), "MainForm") && !files.FindText(file("one.glt"), "AboutBox"));
+
+    window.pcForms.Enter(1); // nothing there
+    desk.ui.Message("Project or file is not translated!");
+    desk.Command("sbSaveProject");
+    desk.ui.File("", {file("About.pas")});
+    desk.Command("tbAddExternalFile");
+    desk.ui.File("Select file...", {file("external.glb")});
+    desk.Command("sbSaveProject");
+    EXPECT_TRUE(files.FindBinary(file("external.glb"), "AboutBox") &&
+                !files.FindBinary(file("external.glb"), "MainForm"));
+}
+
+TEST(MainWindow, ProjectSettingsAreEditedForAnOpenProject) {
+    Desk desk;
+    TfrmGlotta& window = desk.Open();
+    TMenuItem& item = *window.MainMenu.Items.FindDeep("acProjectSettings");
+    EXPECT_FALSE(item.Enabled());
+    desk.projectSettings = std::make_unique<TGlottaProjectSettings>();
+    desk.projectSettings->SetFileName(desk.folder / "OrderDesk.gxproj");
+    window.CheckEnableActions();
+    for (const ModalResult way : {ModalResult::Cancel, ModalResult::OK}) {
+        desk.ui.Modal<TfrmProjectTranslationSettings>([&](TfrmProjectTranslationSettings& form) {
+            EXPECT_EQ(JoinLines(form.FormNames().Items(), " "), "AboutBox CustomerForm Data MainForm ReceiptForm");
+            form.cbFormForUnits.Enter("MainForm");
+            form.ckbConfirm.Enter(false);
+            return way;
+        });
+        desk.Command("acProjectSettings");
+        EXPECT_EQ(std::filesystem::exists(desk.folder / "OrderDesk.gxproj"), way == ModalResult::OK);
+    }
+    EXPECT_EQ(ReadFile(desk.folder / "OrderDesk.gxproj"),
+              "[Settings]\r\nDefaultDictionary=\r\nDictionaryBaseLanguage=\r\nDontAskForDictionary=1\r\n"
+              "DictionaryIgnoreCase=0\r\nDictionarySkipAmpersands=0\r\nDictionaryParseMultilines=0\r\n"
+              "DictionaryOverwriteExisting=0\r\nDictionaryForceEmpties=0\r\nDefaultTranslationFileName=\r\n"
+              "DefaultFormForUnits=MainForm\r\nDispatcherForm=\r\nCommonContainerForm=\r\n");
+    window.ClearProject();
+    window.CheckEnableActions();
+    EXPECT_FALSE(item.Enabled());
 }
 
 TEST(MainWindow, UnitsNeedAFormWithAComponent) {
