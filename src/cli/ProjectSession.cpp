@@ -26,6 +26,22 @@ IOTAProject& ProjectSession::Project() {
     return *project;
 }
 
+FormsListItem& ProjectSession::FindForm(const std::string& option, const std::string& name) {
+    FormsListItem* item = forms_.FindExact(name);
+    if (!item)
+        item = forms_.FindText(name);
+    if (!item)
+        throw Error(option + " " + name + ": the project has no such form");
+    return *item;
+}
+
+void ProjectSession::SelectForms(const std::vector<std::string>& names) {
+    for (FormsListItem& item : forms_.items)
+        item.selected = names.empty();
+    for (const std::string& name : names)
+        FindForm("--form", name).selected = true;
+}
+
 std::string ProjectSession::Shown(const std::string& fileName) const {
     return PathText(PathFromText(fileName).lexically_proximate(std::filesystem::current_path()));
 }

@@ -21,6 +21,10 @@ public:
     IdeServices& Services() { return services_; }
     FormsList& Forms() { return forms_; }
     IOTAProject& Project();
+    // `option` is named when the project has no such form; letter case decides where several fit.
+    FormsListItem& FindForm(const std::string& option, const std::string& name);
+    // Selects the forms that `--form` names, all without names.
+    void SelectForms(const std::vector<std::string>& names);
     // The project's folder, with respect to which files are shown.
     std::string Shown(const std::string& fileName) const;
     // The value of a project option, empty without one.

@@ -35,7 +35,7 @@ public:
 
     int Run() {
         if (!options_.stringsForm.empty())
-            stringsForm_ = FindForm("--strings-form", options_.stringsForm).formName;
+            stringsForm_ = project_.FindForm("--strings-form", options_.stringsForm).formName;
         else
             stringsForm_ = project_.ProjectOption("DefaultFormForUnits");
         for (const Target& target : Targets())
@@ -77,17 +77,8 @@ private:
         return targets;
     }
 
-    const FormsListItem& FindForm(const std::string& option, const std::string& name) {
-        const FormsListItem* item = project_.Forms().FindExact(name);
-        if (!item)
-            item = project_.Forms().FindText(name);
-        if (!item)
-            throw Error(option + " " + name + ": the project has no such form");
-        return *item;
-    }
-
     Target FormTarget(const std::string& name) {
-        const FormsListItem& item = FindForm("--form", name);
+        const FormsListItem& item = project_.FindForm("--form", name);
         return {item.formName, item.unitName, item.fileName, true};
     }
 

@@ -6,6 +6,12 @@
 
 namespace glotta {
 
+bool IsUsableID(std::string_view id) {
+    return !Trim(id).empty() && std::none_of(id.begin(), id.end(), [](unsigned char c) {
+        return c < ' ' || c == '\'' || c == '"';
+    });
+}
+
 TransTexts::TransTexts(const TgxCustomLang& component) {
     names_ = component.LangNames();
     names_.resize(std::size_t(component.NumberOfLanguages()));

@@ -14,6 +14,9 @@
 
 namespace glotta {
 
+// Whether a string can be called so: not empty, without quotes and control characters.
+bool IsUsableID(std::string_view id);
+
 class TransTexts {
 public:
     explicit TransTexts(const TgxCustomLang& component);
