@@ -104,6 +104,7 @@ void TfrmStrReplace::Move(TListBox& from, TListBox& to, bool all) {
 
 void TfrmStrReplace::ShowLines(const std::string& fileName, std::vector<RenameLine> lines) {
     showsLines_ = true;
+    modalResult = ModalResult::None; // it is shown once more
     btOK.caption = "&Replace";
     lblSourceLines.Set("Unit file: " + fileName +
                        "\rSource line(s) with old string identifier that will be modified:");

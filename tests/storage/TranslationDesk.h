@@ -29,7 +29,12 @@ struct TranslationDesk {
                                       ";\r\nimplementation\r\n{$R *.dfm}\r\nend.\r\n");
         folder.Put(name + ".dfm", "object " + name + ": T" + name + "\r\n" +
                                       ReplaceStr(components, "|", "\r\n") + "end\r\n");
-        uses_ += (uses_.empty() ? "" : ",\r\n  ") + name + " in '" + name + ".pas' {" + name + "}";
+        Use(name + " in '" + name + ".pas' {" + name + "}");
+    }
+    // Without a form.
+    void AddUnit(const std::string& name, const std::string& source) {
+        folder.Put(name + ".pas", source);
+        Use(name + " in '" + name + ".pas'");
     }
     void Open() {
         ide.OpenProject(
@@ -68,6 +73,7 @@ struct TranslationDesk {
     }
 
 private:
+    void Use(const std::string& entry) { uses_ += (uses_.empty() ? "" : ",\r\n  ") + entry; }
     static std::string Records(const TComponent& root) {
         std::string text;
         for (const TComponent* component : root.Components())
