@@ -17,6 +17,7 @@ struct CommandLine {
 };
 
 void AddCheckCommand(const CommandLine& line);
+void AddExcludeCommand(const CommandLine& line);
 void AddFindCommand(const CommandLine& line);
 void AddOptionsCommand(const CommandLine& line);
 void AddRenameCommand(const CommandLine& line);

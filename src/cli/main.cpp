@@ -50,6 +50,7 @@ int Run(std::vector<std::string> arguments) {
     std::function<int()> run;
     const CommandLine line{app, global, run};
     AddCheckCommand(line);
+    AddExcludeCommand(line);
     AddFindCommand(line);
     AddOptionsCommand(line);
     AddRenameCommand(line);

@@ -1,0 +1,2 @@
+object Form2: TForm2
+end
