@@ -44,6 +44,7 @@ std::string_view Phrase(Reason reason) {
         "array initialiser",
         "adjacent to another literal or a macro",
         "initial value of a char pointer: add .c_str() to the call",
+        "assigned to a char pointer: add .c_str() to the call",
         "in sizeof",
         "in a constant expression",
         "template argument",

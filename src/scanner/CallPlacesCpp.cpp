@@ -145,6 +145,9 @@ struct State {
     bool inFunction = false;
     bool ofWord = false;         // Group: behind sizeof, __declspec and their like
     bool mayBeAttribute = false; // Group: a bracket where no subscript can stand
+    // Group: a parameter list, perhaps
+    std::string_view routine = {};
+    std::uint32_t parameter = 0, pointers = 0; // the latter: a bit for each
 };
 
 class Walker {
@@ -172,9 +175,11 @@ private:
             s_.word = word;
             s_.before = AWord;
             arguments_.TakeWord(lastWord_);
+            if (!IsTextMacro(lastWord_)) assignsToPointer_ = false;
             return;
         }
         case TokenKind::Symbol:
+            assignsToPointer_ = AssignsToPointer(token);
             TakeSymbol(token);
             arguments_.TakeSymbol(text_[token.begin]);
             return;
@@ -196,6 +201,7 @@ private:
         default:
             s_.seen |= NotADeclaration;
             s_.before = ANumber;
+            assignsToPointer_ = false;
             arguments_.TakeOther();
         }
     }
@@ -247,6 +253,8 @@ private:
         place.joinedBefore = behindLiteral || behindMacro;
         place.routine = arguments_.Routine();
         if (place.routine && place.reason == Reason::None) place.reason = Reason::PCharArgument;
+        if (place.reason == Reason::None && assignsToPointer_) place.reason = Reason::CharPointerVariable;
+        assignsToPointer_ = false;
         arguments_.TakeOther();
         out_.places.push_back(place);
         behindAngle_ = s_.before == '<';
@@ -260,7 +268,9 @@ private:
         if (word != Word::Qualifier) s_.seen &= static_cast<std::uint16_t>(~ParametersLast);
         switch (word) {
         case Word::None:
-            if (!Has(NotADeclaration) && s_.before != ':' && s_.before != '.' && s_.names < 2) ++s_.names;
+            if (Has(NotADeclaration) || s_.before == ':' || s_.before == '.') return;
+            if (s_.names < 2) ++s_.names;
+            if (s_.names == 2) pointers_.AddVariable(lastWord_, Has(PointerDeclared));
             return;
         case Word::Namespace:
             s_.seen |= NamespaceWord;
@@ -336,8 +346,10 @@ private:
         case '*':
             if (Has(CharWord) && !Has(NotADeclaration)) s_.seen |= PointerDeclared;
             break;
-        case '&':
         case ',':
+            if (IsParameterList()) EndParameter();
+            break;
+        case '&':
             break;
         default:
             s_.seen |= NotADeclaration;
@@ -348,6 +360,23 @@ private:
                         ? static_cast<char>(Comparison)
                         : symbol;
         if (symbol == '-' && length > 1) s_.before = '.';
+    }
+
+    // "p =" of a pointer to characters that is not declared here; a macro like _T may follow.
+    bool AssignsToPointer(const Token& symbol) const {
+        if (TextOf(symbol) == "(") return assignsToPointer_;
+        return TextOf(symbol) == "=" && s_.before == AWord && s_.word == Word::None &&
+               !Has(PointerDeclared) && pointers_.IsVariable(lastWord_);
+    }
+
+    bool IsParameterList() const {
+        return s_.frame == Frame::Group && s_.base == Reason::FileScope && !s_.routine.empty();
+    }
+    void EndParameter() {
+        if (Has(PointerDeclared) && s_.parameter < 32) s_.pointers |= std::uint32_t{1} << s_.parameter;
+        ++s_.parameter;
+        s_.seen &= static_cast<std::uint16_t>(~(CharWord | PointerDeclared | NotADeclaration));
+        s_.names = 0;
     }
 
     void TakeAngle(char symbol, std::size_t length, bool compares) {
@@ -394,7 +423,10 @@ private:
                             : s_.word == Word::Assembler ? Reason::Assembler
                                                          : Reason::ConstantExpression;
         const bool subscript = word || s_.before == ')' || s_.before == ']' || s_.before == ALiteral;
+        const std::string_view routine =
+            word && symbol == '(' && s_.word == Word::None ? lastWord_ : std::string_view();
         Push(Frame::Group, base, s_.inFunction);
+        s_.routine = routine;
         s_.ofWord = ofWord;
         s_.mayBeAttribute = symbol == '[' && !subscript;
         s_.before = symbol;
@@ -402,6 +434,10 @@ private:
 
     void Close(char symbol) {
         const bool ofWord = s_.ofWord;
+        if (symbol == ')' && IsParameterList()) {
+            EndParameter();
+            pointers_.AddRoutine(s_.routine, s_.pointers);
+        }
         if (s_.frame == Frame::Group) nesting_.Pop(s_);
         if (symbol == ')' && !ofWord && !s_.angles) s_.seen |= Parameters | ParametersLast | NotADeclaration;
         s_.before = symbol;
@@ -467,8 +503,10 @@ private:
     Walked out_;
     State s_;
     Nesting<State> nesting_;
-    PCharArguments arguments_{true};
+    PCharNames pointers_;
+    PCharArguments arguments_{true, pointers_};
     bool behindAngle_ = false; // the last literal
+    bool assignsToPointer_ = false;
     std::string_view lastWord_;
 };
 

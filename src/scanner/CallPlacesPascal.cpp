@@ -514,7 +514,7 @@ private:
     State s_;
     Nesting<State> nesting_;
     PCharDeclarations pointers_;
-    PCharArguments arguments_{pointers_};
+    PCharArguments arguments_{false, pointers_.Names()};
 };
 
 } // namespace

@@ -39,6 +39,7 @@ enum class Reason : std::uint8_t {
     ArrayInitialiser,
     Adjacent,
     CharPointer,
+    CharPointerVariable,
     SizeOf,
     ConstantExpression,
     TemplateArgument,

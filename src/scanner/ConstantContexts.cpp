@@ -30,11 +30,14 @@ public:
             if (tokens_.IsWord(at_)) {
                 Word();
                 arguments_.TakeWord(Text(at_));
+                pointers_.TakeWord(Text(at_), blocks_ > 0);
             } else if (tokens_.Kind(at_) == TokenKind::Symbol) {
                 Symbol();
                 arguments_.TakeSymbol(Text(at_)[0]);
+                pointers_.TakeSymbol(Text(at_) == ":=" ? '!' : Text(at_)[0], blocks_ > 0);
             } else {
                 arguments_.TakeOther();
+                pointers_.TakeOther();
             }
         }
     }
@@ -65,7 +68,7 @@ private:
         if (!member && blocks_ > 0 ? Statement() : !member && open_ == 0 && Declaration()) return;
         if (blocks_ > 0) {
             if (collecting_) Collect(at_);
-            if (arguments_.Routine()) result_.pointer_.emplace(Text(at_));
+            if (arguments_.Routine() || pointers_.AssignsToPChar(false)) result_.pointer_.emplace(Text(at_));
             return;
         }
         if (section_ == Section::Const && !named_) {
@@ -171,7 +174,8 @@ private:
     bool named_ = false;                            // the declaration's name has passed
     bool collecting_ = false;                       // what follows is a constant expression
     unsigned blocks_ = 0, brackets_ = 0, open_ = 0; // open_: parentheses
-    PCharArguments arguments_{false};
+    PCharDeclarations pointers_;
+    PCharArguments arguments_{false, pointers_.Names()};
 };
 
 void ConstantContexts::Add(const UnitTokens& unit) {

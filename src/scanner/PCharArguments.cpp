@@ -254,7 +254,7 @@ PCharArguments::Group PCharArguments::Opened() const {
 std::uint8_t PCharArguments::Routine() const {
     if (open_.empty() || open_.back().routine.empty() || open_.back().argument > 31) return 0;
     const std::uint8_t number = NumberOf(open_.back().routine, isCpp_);
-    if (!number && own_ && own_->IsPCharParameter(open_.back().routine, open_.back().argument)) return OwnRoutine;
+    if (!number && own_.IsParameter(open_.back().routine, open_.back().argument)) return OwnRoutine;
     return number && (routines[number - 1].pointers >> open_.back().argument & 1) ? number : 0;
 }
 
@@ -268,7 +268,9 @@ std::string_view PCharArguments::Note(std::uint8_t routine, bool isCpp) {
                                       : " is a PChar: typecast the call"));
         return result;
     }();
-    if (routine == OwnRoutine) return "argument is a PChar: typecast the call";
+    if (routine == OwnRoutine)
+        return isCpp ? "argument is a char pointer: add .c_str() to the call"
+                     : "argument is a PChar: typecast the call";
     return notes[routine - 1u + (isCpp ? std::size(routines) : 0)];
 }
 

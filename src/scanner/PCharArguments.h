@@ -12,9 +12,8 @@ namespace glotta {
 // Follows the tokens of a unit, directives and comments left out.
 class PCharArguments {
 public:
-    explicit PCharArguments(bool isCpp) : isCpp_(isCpp) {}
-    // Besides the well-known routines those that the unit declares itself.
-    explicit PCharArguments(const PCharDeclarations& own) : isCpp_(false), own_(&own) {}
+    // `own` are the routines that the unit declares, besides the well-known ones.
+    PCharArguments(bool isCpp, const PCharNames& own) : isCpp_(isCpp), own_(own) {}
 
     void TakeWord(std::string_view word) { word_ = word; }
     void TakeSymbol(char symbol);
@@ -34,7 +33,7 @@ private:
     Group Opened() const;
 
     bool isCpp_;
-    const PCharDeclarations* own_ = nullptr;
+    const PCharNames& own_;
     std::string_view word_; // directly before
     std::vector<Group> open_;
 };

@@ -15,9 +15,9 @@ template <std::size_t Count> bool IsOneOf(std::string_view word, const std::stri
 bool IsWindowsPCharField(std::string_view name) {
     if (name.size() < 5) return false;
     static constexpr std::string_view prefixes[] = {"lpsz", "lpstr", "psz", "lpwsz", "pwsz"};
-    static constexpr std::string_view names[] = {"lpVerb",         "lpFile",    "lpParameters", "lpDirectory",
-                                                 "lpClass",        "lpDesktop", "lpTitle",      "lpTemplateName",
-                                                 "dwTypeData",     "pDocName",  "pOutputFile",  "pDatatype"};
+    static constexpr std::string_view names[] = {"lpVerb",     "lpFile",    "lpParameters", "lpDirectory",
+                                                 "lpClass",    "lpDesktop", "lpTitle",      "lpTemplateName",
+                                                 "dwTypeData", "pDocName",  "pOutputFile",  "pDatatype"};
     return std::any_of(std::begin(prefixes), std::end(prefixes),
                        [name](std::string_view prefix) { return StartsWithText(name, prefix); }) ||
            IsOneOf(name, names);
@@ -26,9 +26,32 @@ bool IsWindowsPCharField(std::string_view name) {
 } // namespace
 
 bool IsPCharType(std::string_view typeName) {
-    static constexpr std::string_view types[] = {"PChar",   "PAnsiChar", "PWideChar", "PUTF8Char", "LPSTR",
-                                                 "LPCSTR",  "LPTSTR",    "LPCTSTR",   "LPWSTR",    "LPCWSTR"};
+    static constexpr std::string_view types[] = {"PChar",  "PAnsiChar", "PWideChar", "PUTF8Char", "LPSTR",
+                                                 "LPCSTR", "LPTSTR",    "LPCTSTR",   "LPWSTR",    "LPCWSTR"};
     return typeName.size() >= 5 && (typeName[0] | 0x20) <= 'p' && IsOneOf(typeName, types);
+}
+
+void PCharNames::AddVariable(std::string_view name, bool isPointer) {
+    if (isPointer)
+        variables_.insert(name);
+    else if (!variables_.empty())
+        variables_.erase(name);
+}
+
+void PCharNames::AddRoutine(std::string_view name, std::uint32_t pointers) {
+    if (const auto known = routines_.find(name); known != routines_.end())
+        known->second &= pointers;
+    else if (pointers)
+        routines_.emplace(name, pointers);
+}
+
+bool PCharNames::IsVariable(std::string_view name) const {
+    return variables_.contains(name) || IsWindowsPCharField(name);
+}
+
+bool PCharNames::IsParameter(std::string_view routine, unsigned position) const {
+    const auto found = routines_.find(routine);
+    return found != routines_.end() && position < 32 && (found->second >> position & 1);
 }
 
 void PCharDeclarations::BeginRoutine() {
@@ -66,7 +89,7 @@ void PCharDeclarations::TakeSymbol(char symbol, bool isStatement) {
         }
         return EndList();
     case ')':
-        if (depth_ > 0 && --depth_ == 0) EndParameters();
+        if (depth_ > 0 && --depth_ == 0) known_.AddRoutine(routine_, pointers_);
         return EndList();
     case ';':
         if (depth_ == 1) parameters_ += static_cast<unsigned>(names_.size()); // without a type
@@ -83,22 +106,11 @@ void PCharDeclarations::TakeOther() {
 void PCharDeclarations::TakeType(std::string_view type) {
     const bool isPChar = IsPCharType(type);
     for (const std::string_view name : names_)
-        if (isPChar)
-            variables_.insert(name);
-        else if (!variables_.empty())
-            variables_.erase(name);
+        known_.AddVariable(name, isPChar);
     if (depth_ == 1)
         for (std::size_t i = 0; i < names_.size(); ++i, ++parameters_)
             if (isPChar && parameters_ < 32) pointers_ |= std::uint32_t{1} << parameters_;
     EndList();
-}
-
-// Of an overloaded routine those parameters count that are pointers in all of its forms.
-void PCharDeclarations::EndParameters() {
-    if (const auto known = routines_.find(routine_); known != routines_.end())
-        known->second &= pointers_;
-    else if (pointers_)
-        routines_.emplace(routine_, pointers_);
 }
 
 void PCharDeclarations::EndList() {
@@ -108,13 +120,7 @@ void PCharDeclarations::EndList() {
 
 bool PCharDeclarations::AssignsToPChar(bool inPCharFunction) const {
     if (target_.empty()) return false;
-    return variables_.contains(target_) || IsWindowsPCharField(target_) ||
-           (inPCharFunction && SameText(target_, "Result"));
-}
-
-bool PCharDeclarations::IsPCharParameter(std::string_view routine, unsigned position) const {
-    const auto found = routines_.find(routine);
-    return found != routines_.end() && position < 32 && (found->second >> position & 1);
+    return known_.IsVariable(target_) || (inPCharFunction && SameText(target_, "Result"));
 }
 
 } // namespace glotta

@@ -1,5 +1,5 @@
-// What a Pascal unit itself declares to be a PChar: variables and fields, and parameters of its routines. A
-// literal converts to such a pointer by itself, the string that a look-up yields does not.
+// What a unit itself declares to be a pointer to characters: variables and fields, and parameters of its
+// routines. A literal converts to such a pointer by itself, the string that a look-up yields does not.
 #pragma once
 #include "platform/Text.h"
 
@@ -11,10 +11,24 @@
 
 namespace glotta {
 
-bool IsPCharType(std::string_view typeName);
+// Of several declarations of a name the last one counts: those of a routine stand directly before its
+// statements. Of an overloaded routine those parameters count that are pointers in all of its forms.
+class PCharNames {
+public:
+    void AddVariable(std::string_view name, bool isPointer);
+    void AddRoutine(std::string_view name, std::uint32_t pointers); // bits: positions from 0
+    // Also fields of the records of the Windows programming interface.
+    bool IsVariable(std::string_view name) const;
+    bool IsParameter(std::string_view routine, unsigned position) const;
 
-// Follows the tokens of a unit, directives and comments left out. Of several declarations of a name the last
-// one counts: those of a routine stand directly before its statements.
+private:
+    std::unordered_set<std::string_view, TextHash, TextEqual> variables_;
+    std::unordered_map<std::string_view, std::uint32_t, TextHash, TextEqual> routines_;
+};
+
+bool IsPCharType(std::string_view typeName); // of Pascal
+
+// Follows the tokens of a Pascal unit, directives and comments left out.
 class PCharDeclarations {
 public:
     void BeginRoutine();
@@ -25,15 +39,13 @@ public:
     // The next token is assigned to a variable or field that is a PChar. `inPCharFunction` tells it of the
     // variable Result.
     bool AssignsToPChar(bool inPCharFunction) const;
-    bool IsPCharParameter(std::string_view routine, unsigned position) const;
+    const PCharNames& Names() const { return known_; }
 
 private:
     void TakeType(std::string_view type);
-    void EndParameters();
     void EndList();
 
-    std::unordered_set<std::string_view, TextHash, TextEqual> variables_;
-    std::unordered_map<std::string_view, std::uint32_t, TextHash, TextEqual> routines_; // bits: positions
+    PCharNames known_;
     // Of the declaration at hand
     std::vector<std::string_view> names_;
     bool listGoesOn_ = false, typeFollows_ = false;

@@ -120,6 +120,14 @@ TEST(CallPlaces, ArgumentsThatArePointers) {
              "\"aa\"" + pointer + "|\"bb\"" + pointer + "|\"cc\"" + pointer + "|\"dd\"" + pointer +
                  "|\"ee\" |\"ff\" |\"gg\" |\"hh\" "}},
            true, "void f() { ");
+    const std::string assigned = " assigned to a char pointer: add .c_str() to the call";
+    const std::string passed = " argument is a char pointer: add .c_str() to the call";
+    Expect({{"void f(String s, const char *p, String t) { p = \"aa\"; s = \"bb\"; t = \"cc\"; w.lpszClassName "
+             "= _T(\"ee\"); p = g(\"ff\"); if (p == \"gg\") {} }",
+             "\"aa\"" + assigned + "|\"bb\" |\"cc\" |\"ee\"" + assigned + "|\"ff\" |\"gg\" "},
+            {"void f(int a, const char *b = \"aa\", ...); void T::g(String p) { f(0, \"bb\", \"cc\"); p = \"dd\"; g(\"ee\"); }",
+             "\"aa\" default argument|\"bb\"" + passed + "|\"cc\" |\"dd\" |\"ee\" "}},
+           true, "char* p; ");
 }
 
 TEST(CallPlaces, PascalStatements) {

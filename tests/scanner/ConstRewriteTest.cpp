@@ -86,7 +86,7 @@ const
   Sum = [['ab']] + Free2; Sum2 = Free2 + [['ab']];
   Free2 = [['ab']];
   Bound = [['ab']]; Default = [['ab']]; Library = [['ab']]; Initial = [['ab']]; Tested = [['ab']];
-  Ptr = [['ab']]; Branch = [['ab']];
+  Ptr = [['ab']]; Assigned = [['ab']]; Branch = [['ab']];
   Twice = [['ab']];
   Done: string = [['ab']]; // TGL: Localized (Don't modify!)
   Split = {$IFDEF A} [['ab']] {$ELSE} 'cd' {$ENDIF};
@@ -107,7 +107,9 @@ implementation
 const Lower = [['ab']]; Twice = [['ab']];
 procedure TForm1.Foo;
 const Local = [['ab']];
+var P: PChar;
 begin
+  P := Assigned;
   if InCode = Lower then ShowMessage(InCode + Free);
   MessageBox(0, Ptr, nil, 0);
   {$IFDEF A} a {$ELSE} Use(Branch) {$ENDIF};
@@ -132,6 +134,7 @@ end.)"),
               "used where a constant expression is required\n"
               "used where a constant expression is required\n"
               "used where a constant expression is required\n"
+              "passed where a PChar is required\n"
               "passed where a PChar is required\n"
               "used in a branch of conditional code that was not followed\n"
               "declared more than once\n"
