@@ -27,20 +27,28 @@ std::string Count(std::size_t count, const std::string& what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
-// Writes what the command changed, all files or none, and tells of it.
-int Finish(ProjectSession& project, const std::string& done) {
+// What was passed over, and the expert's messages. False when one of them tells of an error.
+bool PrintMessages(ProjectSession& project) {
     project.PrintProblems();
-    bool failed = false;
+    bool good = true;
     for (const CliUi::Message& message : project.GetUi().Messages()) {
-        failed |= message.type == MsgType::Error;
+        good &= message.type != MsgType::Error;
         std::cerr << OneLine(message.text) << "\n";
     }
+    return good;
+}
+
+// Writes what the command changed, all files or none, and tells of it. The exit code.
+int Finish(ProjectSession& project, std::string done) {
+    const bool good = PrintMessages(project);
     const std::vector<FileChange> changes = project.Ide().ModifiedFiles();
     project.Ide().SaveAll();
     for (const FileChange& change : changes)
         std::cout << project.Shown(PathText(change.file)) << "\n";
-    std::cout << done << Count(changes.size(), "file") << " written\n";
-    return failed ? 2 : 0;
+    if (done.empty() || !changes.empty())
+        done += (done.empty() ? "" : ", ") + Count(changes.size(), "file") + " written";
+    std::cout << done << "\n";
+    return good ? 0 : 2;
 }
 
 // Where the file lies does not depend on what the command does on its way.
@@ -48,7 +56,7 @@ std::string FullName(const std::string& file) {
     return PathText(std::filesystem::absolute(PathFromText(file)));
 }
 
-// Saving, loading and merging: `run` takes the mode for the whole project or for the selected forms.
+// Saving, loading and merging.
 int RunFileCommand(const GlobalOptions& global, const TranslationsOptions& options, const std::string& done,
                    const std::function<void(TranslationFileCommands&)>& run) {
     Session session(global, false);
@@ -67,8 +75,12 @@ int RunFileCommand(const GlobalOptions& global, const TranslationsOptions& optio
         ui.AnswerInput("Input delimeter:",
                        options.delimiter ? *options.delimiter : commands.GetGLTFileDelimiter(file));
     run(commands);
-    return Finish(project, Count(std::size_t(commands.FormsDone()), "form") + " " + done + " " +
-                               project.Shown(file) + ", ");
+    const std::string what = Count(std::size_t(commands.FormsDone()), "form") + " " + done + " " + project.Shown(file);
+    if (commands.FormsDone() > 0)
+        return Finish(project, what);
+    PrintMessages(project);
+    std::cerr << what << ", nothing was written\n";
+    return 2;
 }
 
 int RunFormsCommand(const GlobalOptions& global, const TranslationsOptions& options,
@@ -97,10 +109,9 @@ void AddFileCommand(const CommandLine& line, const char* name, const char* what,
     const auto options = std::make_shared<TranslationsOptions>();
     CLI::App& app = AddCommand(line, name, what, options);
     app.add_option("FILE", options->file, "The translation file: .glb is binary, every other one is text")->required();
-    if (command == &TranslationFileCommands::sbSaveAllClick) {
-        app.add_option("--delimiter", options->delimiter, "The field delimiter (else the file's own or the setting)");
-        app.add_flag("--yes", options->yes, "Change the delimiter of an existing file");
-    }
+    app.add_option("--delimiter", options->delimiter,
+                   "The field delimiter to save with (else the file's own, or that of the settings)");
+    app.add_flag("--yes", options->yes, "Change the delimiter of an existing file");
     app.final_callback([&run = line.run, &global = line.global, options, done, forms, whole, command] {
         run = [&global, options, done, forms, whole, command] {
             return RunFileCommand(global, *options, done, [&](TranslationFileCommands& commands) {

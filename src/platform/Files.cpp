@@ -41,7 +41,7 @@ public:
         if (existed_) RequireWritable(target_);
         const fs::path beside = BesideName(target_);
         try {
-            SystemFile out(beside, SystemFile::Mode::CreateNew);
+            SystemFile out(beside, SystemFile::Mode::CreateNew, target_);
             fresh_ = beside;
             if (existed_) out.TakePermissionsOf(target_);
             out.Write(bytes);
@@ -94,7 +94,7 @@ public:
 private:
     // The library's copy_file may change line ends on Windows.
     void CopyTargetTo(const fs::path& beside) const {
-        SystemFile copy(beside, SystemFile::Mode::CreateNew);
+        SystemFile copy(beside, SystemFile::Mode::CreateNew, target_);
         copy.TakePermissionsOf(target_);
         copy.Write(ReadFile(target_));
         copy.Flush();

@@ -70,8 +70,8 @@ long long SizeOf(int handle) {
 
 } // namespace
 
-SystemFile::SystemFile(const std::filesystem::path& file, Mode mode)
-    : file_(file), handle_(Open(file, mode)) {
+SystemFile::SystemFile(const std::filesystem::path& file, Mode mode, const std::filesystem::path& inPlaceOf)
+    : file_(inPlaceOf.empty() ? file : inPlaceOf), handle_(Open(file, mode)) {
     if (handle_ < 0) Fail(file_, errno);
 }
 

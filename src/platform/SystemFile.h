@@ -11,7 +11,8 @@ class SystemFile {
 public:
     // CreateNew fails when the file exists; Shared creates it when it does not.
     enum class Mode { Read, CreateNew, Shared };
-    SystemFile(const std::filesystem::path& file, Mode mode);
+    // Errors name the file that it is `inPlaceOf`, where there is one.
+    SystemFile(const std::filesystem::path& file, Mode mode, const std::filesystem::path& inPlaceOf = {});
     ~SystemFile();
     SystemFile(const SystemFile&) = delete;
     SystemFile& operator=(const SystemFile&) = delete;

@@ -64,6 +64,8 @@ TEST_F(Files, ErrorsNameTheFile) {
     EXPECT_EQ(MessageOf([&] { ReadFile(dir / "none"); }),
               (dir / "none").string() + ": No such file or directory");
     EXPECT_EQ(MessageOf([&] { ReadFile(dir); }), dir.string() + ": Is a directory");
+    EXPECT_EQ(MessageOf([&] { WriteFileAtomically(dir / "none" / "a", ""); }),
+              (dir / "none" / "a").string() + ": No such file or directory");
 }
 
 TEST_F(Files, WrittenPathsResolveInAnyCase) {

@@ -1,0 +1,6 @@
+object DataForm: TDataForm
+  Caption = 'Data'
+  object btnOK: TButton
+    Caption = 'OK'
+  end
+end
