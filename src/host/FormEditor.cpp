@@ -62,6 +62,11 @@ void PlainFormEditor::Step(const std::function<void()>& change) {
     if (OnView) OnView();
 }
 
+void PlainFormEditor::EditStep(const std::function<void()>& edit) {
+    history_.Step(edit, true);
+    if (OnView) OnView();
+}
+
 void PlainFormEditor::Follow(const FormHistory::Renames& renames) {
     for (const FormSnapshot::Rename& rename : renames)
         designer_.FollowRename(*rename.component, {rename.from, rename.fromClass}, {rename.to, rename.toClass});

@@ -49,6 +49,8 @@ public:
     }
     // A person's change, as one step that can be undone; what fails leaves everything as it was.
     void Step(const std::function<void()>& change);
+    // What a registered editor does: such a step when it tells the designer of a change.
+    void EditStep(const std::function<void()>& edit);
     bool CanUndo() const { return history_.CanUndo(); }
     bool CanRedo() const { return history_.CanRedo(); }
     void Undo() { Follow(history_.Undo()); }

@@ -34,11 +34,12 @@ void FormHistory::RedoTexts(const std::vector<TextStep>& texts) const {
             if (text.file == editor->FileName() && text.step == editor->Buffer().UndoneStep()) editor->Redo();
 }
 
-void FormHistory::Step(const std::function<void()>& change) {
+void FormHistory::Step(const std::function<void()>& change, bool onlyTouched) {
     if (inStep_) return change();
     FormSnapshot before(tree_);
     const std::vector<TextStep> texts = Texts();
     inStep_ = true;
+    touched_ = false;
     try {
         change();
     } catch (...) {
@@ -48,6 +49,7 @@ void FormHistory::Step(const std::function<void()>& change) {
         throw;
     }
     inStep_ = false;
+    if (onlyTouched && !touched_) return;
     FormSnapshot after(tree_);
     if (!FormSnapshot::Difference(before, after)) return;
     steps_.resize(done_, {before, after, {}});
@@ -71,6 +73,7 @@ FormHistory::Renames FormHistory::Redo() {
 }
 
 void FormHistory::Touch() {
+    touched_ = true;
     if (inStep_) return;
     steps_.clear();
     done_ = 0;

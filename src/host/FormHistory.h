@@ -17,7 +17,8 @@ public:
     FormHistory(ComponentTree& tree, Editors editors) : tree_(tree), editors_(std::move(editors)) {}
 
     // What `change` does is one step; when it fails, everything is as it was.
-    void Step(const std::function<void()>& change);
+    // Of an editor's `change` only when it touches the form.
+    void Step(const std::function<void()>& change, bool onlyTouched = false);
     bool CanUndo() const { return done_ > 0; }
     bool CanRedo() const { return done_ < steps_.size(); }
     // The names that changed with it. A text goes back only when nobody changed it since.
@@ -27,7 +28,7 @@ public:
     bool Modified() const { return saved_ != done_; }
     void MarkSaved() { saved_ = done_; }
     void MarkUnsaved() { saved_ = Nowhere; }
-    // The form was changed outside of steps: none of them can be undone any more.
+    // The form was changed; outside of steps none of them can be undone any more.
     void Touch();
 
 private:
@@ -49,7 +50,7 @@ private:
     Editors editors_;
     std::vector<FormStep> steps_;
     std::size_t done_ = 0, saved_ = 0; // steps
-    bool inStep_ = false;
+    bool inStep_ = false, touched_ = false;
 };
 
 } // namespace glotta

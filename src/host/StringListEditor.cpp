@@ -40,12 +40,4 @@ void TStringListProperty::Edit() {
     Modified();
 }
 
-void RegisterStringListEditor(IDesignServices& ide, Ui& ui) {
-    ide.RegisterPropertyEditor(
-        "TStrings", {}, {},
-        {"TStringListProperty", [&ui](DesignPlace place, TComponent& component, const PropertyInfo& property) {
-             return std::make_unique<TStringListProperty>(place, component, property, &ui);
-         }});
-}
-
 } // namespace glotta

@@ -36,7 +36,4 @@ private:
     Ui& ui_;
 };
 
-// Registers it for all string lists. `ui` outlives the registry.
-void RegisterStringListEditor(IDesignServices& ide, Ui& ui);
-
 } // namespace glotta

@@ -47,7 +47,9 @@ struct FakeTransEditor : TransEditor {
     bool changes = false;
     bool TransEditorDlg(TgxCustomLang& component, const std::optional<TransEditorPlace>& place) override {
         log += component.Name();
-        if (place)
+        if (place && place->extended != 0)
+            log += " extended";
+        else if (place)
             log += " " + std::string(StringsTypeName(place->kind)) + "[" + std::to_string(place->index) + "]";
         log += "; ";
         return changes;
