@@ -1,5 +1,7 @@
 #include "translation/TransEditor.h"
 
+#include "translation/ExtendedTranslations.h"
+
 #include <algorithm>
 
 namespace glotta {
@@ -141,9 +143,8 @@ std::array<std::string, 2> TfrmTransEditor::StatusTexts() const {
 }
 
 void TfrmTransEditor::ShowPlace(const TransEditorPlace& place) {
-    const int kindRow = lbKinds.RowOf(place.kind);
-    if (kindRow < 0 || place.index < 0) return;
-    lbKinds.SelectOnly(kindRow);
+    lbKinds.SelectOnly(lbKinds.Listed(place.kind));
+    if (place.index < 0) return;
     if (const int row = sgTexts.RowOf(std::size_t(place.index)); row >= 0) sgTexts.SelectOnly(row);
 }
 
@@ -180,10 +181,7 @@ void TfrmTransEditor::TypeText() {
 bool TfrmTransEditor::EnterID(std::size_t record, const std::string& id) {
     const std::string before = texts_.ID(stStrings, record);
     if (id == before) return true;
-    const bool usable = !Trim(id).empty() && std::none_of(id.begin(), id.end(), [](unsigned char c) {
-        return c < ' ' || c == '\'' || c == '"';
-    });
-    if (!usable) {
+    if (!IsUsableID(id)) {
         ui_.MessageDlg("An identifier shall not be empty and shall not contain quotes or control characters!",
                        MsgType::Error);
         return false;
@@ -336,6 +334,11 @@ bool TfrmTransEditor::CloseQuery(Ui& ui, ModalResult result) {
 
 bool TransEditorDialog::TransEditorDlg(TgxCustomLang& component,
                                        const std::optional<TransEditorPlace>& place) {
+    if (place && place->extended != 0) {
+        TfrmExtendedTranslations dialog(ui_, component, place->extended);
+        ui_.ShowModal(dialog);
+        return dialog.Changed();
+    }
     TfrmTransEditor dialog(ui_, component, *this);
     if (place) dialog.ShowPlace(*place);
     ui_.ShowModal(dialog);

@@ -92,9 +92,13 @@ KindsList::KindsList(const TransTexts& texts) : TGrid(Picking::Single), texts_(t
         if (texts.Count(TStringsType(kind)) > 0) kinds_.push_back(TStringsType(kind));
 }
 
-int KindsList::RowOf(TStringsType kind) const {
-    const auto found = std::find(kinds_.begin(), kinds_.end(), kind);
-    return found == kinds_.end() ? -1 : int(found - kinds_.begin());
+int KindsList::Listed(TStringsType kind) {
+    auto place = std::lower_bound(kinds_.begin(), kinds_.end(), kind);
+    if (place == kinds_.end() || *place != kind) {
+        place = kinds_.insert(place, kind);
+        RowsReplaced();
+    }
+    return int(place - kinds_.begin());
 }
 
 std::string KindsList::Header(std::size_t column) const {

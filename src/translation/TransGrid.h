@@ -49,7 +49,7 @@ public:
     // The kinds that have texts.
     explicit KindsList(const TransTexts& texts);
     TStringsType At(std::size_t row) const { return kinds_[row]; }
-    int RowOf(TStringsType kind) const; // -1: it has no texts
+    int Listed(TStringsType kind); // its row; a kind without texts is listed from here on
     void Refresh() { CellsChanged(); }
 
     std::size_t RowCount() const override { return kinds_.size(); }
