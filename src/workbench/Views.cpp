@@ -3,6 +3,8 @@
 #include "editors/Dntcedit.h"
 #include "editors/Excludededitor.h"
 #include "editors/Translationwizard.h"
+#include "host/StringListEditor.h"
+#include "editors/_gxcomboproped.h"
 #include "mainwindow/MainWindow.h"
 #include "scanner/Skippedstrings.h"
 #include "scanner/_scan.h"
@@ -14,6 +16,7 @@
 #include "storage/_findphrase.h"
 #include "storage/_stridrepl.h"
 #include "translation/ConfigureLanguages.h"
+#include "translation/ExtendedTranslations.h"
 #include "translation/TransEditor.h"
 #include "translation/TranslUnits.h"
 
@@ -38,6 +41,7 @@ View* MakeView(TForm& form, Ui& ui, QWidget* parent) {
         Entry<TfrmBadIDs, MakeBadIDsView>(),
         Entry<TfrmConfigureLanguages, MakeConfigureLanguagesView>(),
         Entry<TfrmExcludeFromTranslation, MakeExcludeView>(),
+        Entry<TfrmExtendedTranslations, MakeExtendedTranslationsView>(),
         Entry<TfrmFind, MakeFindPhraseView>(),
         Entry<TfrmFound, MakeFoundView>(),
         Entry<TfrmFoundPhrases, MakeFoundPhrasesView>(),
@@ -49,6 +53,7 @@ View* MakeView(TForm& form, Ui& ui, QWidget* parent) {
         Entry<TfrmSkippedStrings, MakeSkippedStringsView>(),
         Entry<TfrmStrReplace, MakeStrReplaceView>(),
         Entry<TfrmTransEditor, MakeTransEditorView>(),
+        Entry<TStringsEditDlg, MakeStringListView>(),
         Entry<TfrmTranslationWizard, MakeTranslationWizardView>(),
         Entry<TfrmTranslUnits, MakeTranslUnitsView>(),
     };

@@ -10,6 +10,8 @@ View* MakeView(TForm& form, Ui& ui, QWidget* parent);
 class TfrmBadIDs;
 class TfrmConfigureLanguages;
 class TfrmExcludeFromTranslation;
+class TStringsEditDlg;
+class TfrmExtendedTranslations;
 class TfrmFind;
 class TfrmFound;
 class TfrmFoundPhrases;
@@ -27,6 +29,7 @@ View* MakeBadIDsView(TfrmBadIDs& form, Ui& ui, QWidget* parent);
 View* MakeConfigureLanguagesView(TfrmConfigureLanguages& form, Ui& ui, QWidget* parent);
 View* MakeExcludeView(TfrmExcludeFromTranslation& form, Ui& ui, QWidget* parent);
 View* MakeFindPhraseView(TfrmFind& form, Ui& ui, QWidget* parent);
+View* MakeExtendedTranslationsView(TfrmExtendedTranslations& form, Ui& ui, QWidget* parent);
 View* MakeFoundPhrasesView(TfrmFoundPhrases& form, Ui& ui, QWidget* parent);
 View* MakeFoundView(TfrmFound& form, Ui& ui, QWidget* parent);
 View* MakeMainWindowView(TfrmGlotta& form, Ui& ui, QWidget* parent);
@@ -38,6 +41,7 @@ View* MakeSkippedStringsView(TfrmSkippedStrings& form, Ui& ui, QWidget* parent);
 View* MakeStrReplaceView(TfrmStrReplace& form, Ui& ui, QWidget* parent);
 View* MakeTransEditorView(TfrmTransEditor& form, Ui& ui, QWidget* parent);
 View* MakeTranslationWizardView(TfrmTranslationWizard& form, Ui& ui, QWidget* parent);
+View* MakeStringListView(TStringsEditDlg& form, Ui& ui, QWidget* parent);
 View* MakeTranslUnitsView(TfrmTranslUnits& form, Ui& ui, QWidget* parent);
 
 } // namespace glotta
