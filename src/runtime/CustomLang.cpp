@@ -1,6 +1,7 @@
 #include "runtime/CustomLang.h"
 
 #include "runtime/CollectTexts.h"
+#include "runtime/GlottaCombo.h"
 
 namespace glotta {
 
@@ -218,6 +219,7 @@ void RegisterGlottaClasses() {
     RegisterComponentClass("TGlottaLinked", CreateComponent<TGlottaLinked>);
     RegisterComponentClass("TGlottaTLV", CreateComponent<TGlottaTLV>);
     RegisterComponentClass("TGlottaDispatcher", CreateComponent<TGlottaDispatcher>);
+    RegisterComponentClass("TGlottaCombo", CreateComponent<TGlottaCombo>);
 }
 
 } // namespace glotta

@@ -20,7 +20,7 @@ TGlottaCombo TCustomComboBox: Align Anchors Color Constraints Ctl3D Enabled Font
  OnDropDown OnEnter OnExit
 TGlottaChangeLanguage TAction: Glotta GlottaDispatcher Language
 TLanguageInfos TCollection <TLanguageInfo>:
-TLanguageInfo TCollectionItem: Caption=string ImageIndex Language
+TLanguageInfo TCollectionItem: FontCharset=TFontCharset FontName=TFontName Image=TBitmap LanguageName=string
 TExtendedTranslations TCollection <TExtendedTranslation>:
 TExtendedTranslation TCollectionItem: Component=TComponent PropertyName
 TgxLabel TCustomLabel: Align Alignment Anchors AutoSize Caption Color Constraints Enabled FocusControl Font ParentColor
