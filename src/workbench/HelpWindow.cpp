@@ -2,6 +2,7 @@
 
 #include "editors/Excludededitor.h"
 #include "editors/Translationwizard.h"
+#include "editors/_gxcomboproped.h"
 #include "scanner/Skippedstrings.h"
 #include "scanner/_scan.h"
 #include "settings/_expopt.h"
@@ -107,6 +108,7 @@ std::string_view OfferHelp(TForm& form, const Show& show) {
         Entry<TfrmFind>("Find and replace phrase"),
         Entry<TfrmFound>("Found strings"),
         Entry<TfrmFoundPhrases>("Find and replace phrase"),
+        Entry<TfrmGlottaComboEditor>("Language drop-down"),
         Entry<TfrmOptions>("Options"),
         Entry<TfrmProjectTranslationSettings>("Project settings"),
         Entry<TfrmReplConfirm>("Find and replace phrase"),

@@ -45,6 +45,7 @@ View* MakeView(TForm& form, Ui& ui, QWidget* parent) {
         Entry<TfrmFind, MakeFindPhraseView>(),
         Entry<TfrmFound, MakeFoundView>(),
         Entry<TfrmFoundPhrases, MakeFoundPhrasesView>(),
+        Entry<TfrmGlottaComboEditor, MakeGlottaComboEditorView>(),
         Entry<TfrmGlotta, MakeMainWindowView>(),
         Entry<TfrmNotTranslate, MakeNotTranslateView>(),
         Entry<TfrmOptions, MakeOptionsView>(),
@@ -52,8 +53,8 @@ View* MakeView(TForm& form, Ui& ui, QWidget* parent) {
         Entry<TfrmReplConfirm, MakeReplConfirmView>(),
         Entry<TfrmSkippedStrings, MakeSkippedStringsView>(),
         Entry<TfrmStrReplace, MakeStrReplaceView>(),
-        Entry<TfrmTransEditor, MakeTransEditorView>(),
         Entry<TStringsEditDlg, MakeStringListView>(),
+        Entry<TfrmTransEditor, MakeTransEditorView>(),
         Entry<TfrmTranslationWizard, MakeTranslationWizardView>(),
         Entry<TfrmTranslUnits, MakeTranslUnitsView>(),
     };
