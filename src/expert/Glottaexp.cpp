@@ -68,6 +68,7 @@ void TGlottaExpert::CreateMainWindow() {
                               results_,          externalFiles_,    projectSettings_, ports_.launcher,
                               ports_.automation, ports_.transEditor};
     context.ProjectClosed = [this] { ProjectClosed(); };
+    context.RunItemClick = [this] { RunItemClick(); };
     context.ReinstallMenu = [this] {
         RemoveSettings();
         Configure();

@@ -44,6 +44,7 @@ struct MainWindowContext {
     // The expert's.
     std::function<void()> ProjectClosed = {};
     std::function<void()> ReinstallMenu = {};
+    std::function<void()> RunItemClick = {}; // lists the forms anew
     std::function<void()> WindowClosed = {};
     std::function<void()> ShowAboutBox = {};
     // The host's; what is empty is disabled.
