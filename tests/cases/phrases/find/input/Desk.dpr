@@ -1,0 +1,9 @@
+program Desk;
+
+uses
+  Forms,
+  Main in 'Main.pas' {MainForm},
+  Plain in 'Plain.pas' {PlainForm};
+
+begin
+end.
