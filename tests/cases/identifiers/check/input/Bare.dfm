@@ -1,0 +1,2 @@
+object BareForm: TBareForm
+end

@@ -1,0 +1,7 @@
+object DataForm: TDataForm
+  object Lang: TGlotta
+    NumberOfLanguages = 1
+    Strings.Strings = (
+      'ROWS'#1'Rows')
+  end
+end
