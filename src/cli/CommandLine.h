@@ -23,5 +23,6 @@ void AddOptionsCommand(const CommandLine& line);
 void AddRenameCommand(const CommandLine& line);
 void AddReplacePhraseCommand(const CommandLine& line);
 void AddTranslationsCommands(const CommandLine& line); // save, load, merge, update, clear
+void AddWizardCommand(const CommandLine& line);
 
 } // namespace glotta

@@ -56,6 +56,7 @@ int Run(std::vector<std::string> arguments) {
     AddRenameCommand(line);
     AddReplacePhraseCommand(line);
     AddTranslationsCommands(line);
+    AddWizardCommand(line);
     ScanCommandOptions scan;
     CLI::App* scanApp = app.add_subcommand("scan", "List the hard-coded strings of units, folders or projects");
     AddScan(*scanApp, scan);

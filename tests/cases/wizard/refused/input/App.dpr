@@ -1,0 +1,10 @@
+program App;
+
+uses
+  Forms,
+  One in 'One.pas' {FormOne},
+  Two in 'Two.pas' {FormTwo},
+  Three in 'Three.pas' {FormThree};
+
+begin
+end.

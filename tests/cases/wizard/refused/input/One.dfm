@@ -1,0 +1,2 @@
+object FormOne: TFormOne
+end

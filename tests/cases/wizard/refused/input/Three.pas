@@ -1,0 +1,16 @@
+unit Three;
+
+interface
+
+uses
+  Forms;
+
+type
+  TFormThree = class(TForm)
+  end;
+
+implementation
+
+{$R *.dfm}
+
+end.

@@ -1,0 +1,2 @@
+object FormTwo: TFormTwo
+end

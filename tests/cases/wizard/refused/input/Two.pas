@@ -1,0 +1,9 @@
+unit Two;
+
+interface
+
+implementation
+
+{$R *.dfm}
+
+end.
