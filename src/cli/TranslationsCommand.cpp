@@ -3,14 +3,15 @@
 #include "cli/ProjectSession.h"
 #include "cli/ScanReport.h"
 #include "platform/Files.h"
-#include "storage/Projectsettings.h"
 #include "storage/TranslationFileCommands.h"
 #include "storage/UpdateTranslations.h"
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
+#include <functional>
 #include <iostream>
+#include <memory>
+#include <optional>
 
 namespace glotta {
 
