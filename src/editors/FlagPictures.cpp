@@ -103,7 +103,6 @@ constexpr Flag Flags[] = {
     Drawn(White, Row(Blue, 2, 2), Row(Blue, 12, 2), Disc(Blue, 12, 8, 3), Disc(White, 12, 8, 2)),
     Drawn(White, Disc(Red, 12, 8, 5)),
     Drawn(Red, Disc(Yellow, 6, 5, 3), Disc(Yellow, 11, 2, 1), Disc(Yellow, 12, 5, 1), Disc(Yellow, 11, 9, 1)),
-    Drawn(White, Disc(Red, 12, 8, 5), Field(Blue, 7, 8, 11, 6), Disc(Red, 10, 8, 2), Disc(Blue, 15, 7, 2)),
     Drawn(Red, Row(White, 3, 10), Row(Navy, 6, 4)),
 };
 

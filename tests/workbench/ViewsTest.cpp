@@ -423,7 +423,7 @@ TEST(Views, PhrasesAreFoundAndReplaced) {
         EXPECT_FALSE(In<QWidget>(window, "edReplace").isVisible());
         Type(window, "edFindText", "order");
         Picture(window, "find-phrase");
-        desk.Click(window, "ckbIdent");
+        In<QCheckBox>(window, "ckbIdent").click();
         EXPECT_TRUE(dynamic_cast<TfrmFind&>(form).Options().identifiers);
         desk.Click(window, "btOK");
     });
@@ -441,7 +441,7 @@ TEST(Views, PhrasesAreFoundAndReplaced) {
 
     desk.uses.push_back([&](TForm&, QWidget& window) {
         EXPECT_EQ(In<QLineEdit>(window, "edFindText").text(), "order");
-        desk.Click(window, "ckbIdent");
+        In<QCheckBox>(window, "ckbIdent").click();
         Type(window, "edReplace", "parcel");
         Picture(window, "replace-phrase");
         desk.Click(window, "btOK");
