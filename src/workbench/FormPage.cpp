@@ -1,9 +1,13 @@
 #include "workbench/FormPage.h"
 
+#include "host/DesignMenu.h"
+#include "workbench/ComponentPalette.h"
 #include "workbench/FormCanvas.h"
+#include "workbench/MenuAdapter.h"
 #include "workbench/QtText.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QTreeWidget>
@@ -20,13 +24,21 @@ constexpr int MaximumDepth = 200;
 
 } // namespace
 
-FormPage::FormPage(PlainFormEditor& form, ObjectInspector::Run run, QWidget* parent)
-    : QWidget(parent), form_(form) {
+FormPage::FormPage(PlainFormEditor& form, DesignRegistry& registry, ObjectInspector::Run run, QWidget* parent)
+    : QWidget(parent), form_(form), registry_(registry), run_(std::move(run)) {
     tree_ = new QTreeWidget(this);
     tree_->setObjectName("components");
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
-    inspector_ = new ObjectInspector(form_, std::move(run), this);
+    tree_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    inspector_ = new ObjectInspector(form_, registry_, run_, this);
+    auto* again = new QShortcut(QKeySequence("Ctrl+Y"), this);
+    again->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(again, &QShortcut::activated, this, [this] {
+        run_([this] {
+            if (form_.CanRedo()) form_.Redo();
+        });
+    });
     auto* left = new QSplitter(Qt::Vertical, this);
     left->addWidget(tree_);
     left->addWidget(inspector_);
@@ -36,10 +48,12 @@ FormPage::FormPage(PlainFormEditor& form, ObjectInspector::Run run, QWidget* par
     scroll->setWidget(canvas_);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    palette_ = new ComponentPalette(this);
     auto* all = new QSplitter(Qt::Horizontal, this);
     all->addWidget(left);
     all->addWidget(scroll);
-    all->setSizes({290, 700});
+    all->addWidget(palette_);
+    all->setSizes({290, 540, 190});
     all->setStretchFactor(1, 1);
     auto* row = new QVBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -49,12 +63,19 @@ FormPage::FormPage(PlainFormEditor& form, ObjectInspector::Run run, QWidget* par
         if (!filling_ && item) form_.Designer().SelectComponent(ComponentOf(*item));
     });
     connect(tree_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
-        GoToDefaultEvent(ComponentOf(*item));
+        Activate(ComponentOf(*item));
     });
     canvas_->OnSelect = [this](TComponent* component) {
         form_.Designer().SelectComponent(component ? component : &form_.Tree().Root());
     };
-    canvas_->OnActivate = [this](TComponent* component) { GoToDefaultEvent(component); };
+    canvas_->OnActivate = [this](TComponent* component) { Activate(component); };
+    for (QWidget* widget : std::initializer_list<QWidget*>{tree_, canvas_}) {
+        widget->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(widget, &QWidget::customContextMenuRequested, this,
+                [this, widget](const QPoint& at) { PopUpMenu(widget->mapToGlobal(at)); });
+    }
+    palette_->OnPlace = [this](const std::string& className) { PlaceComponent(className); };
+    palette_->Show(registry_.PalettePages());
     inspector_->OnEntered = [this] { Later(); }; // also what was refused is shown as it is
     form_.OnView = [this] { Later(); };
     form_.Designer().onSelected = [this] { Select(form_.Designer().SelectedComponent()); };
@@ -86,7 +107,8 @@ void FormPage::Refresh() {
     stale_ = false;
     FillTree();
     canvas_->SetPicture(PictureOf(form_.Tree()));
-    Select(selected_ ? selected_ : &form_.Tree().Root());
+    const bool there = selected_ && byNode_.contains(&selected_->Node());
+    Select(there ? selected_ : &form_.Tree().Root());
 }
 
 // --- the tree ---
@@ -123,7 +145,7 @@ void FormPage::Select(TComponent* component) {
     filling_ = true;
     for (QTreeWidgetItemIterator item(tree_); *item; ++item)
         if (ComponentOf(**item) == selected_) {
-            tree_->setCurrentItem(*item);
+            if (*item != tree_->currentItem()) tree_->setCurrentItem(*item); // else more may be selected
             break;
         }
     filling_ = false;
@@ -131,9 +153,53 @@ void FormPage::Select(TComponent* component) {
     inspector_->Show(*selected_);
 }
 
-void FormPage::GoToDefaultEvent(TComponent* component) {
+// --- what packages brought ---
+
+void FormPage::DesignChanged() {
+    menu_.Items.Clear();
+    inspector_->Forget(); // its editors
+    palette_->Show(registry_.PalettePages());
+    Later();
+}
+
+IDesignerSelections FormPage::Selection() const {
+    IDesignerSelections selection;
+    for (const QTreeWidgetItem* item : tree_->selectedItems())
+        selection.push_back(ComponentOf(*item));
+    if (selection.empty() && selected_) selection.push_back(selected_);
+    return selection;
+}
+
+TPopupMenu& FormPage::DesignMenu() {
+    FillDesignMenu(menu_.Items, registry_, form_.Designer(), Selection(), [this](const std::function<void()>& verb) {
+        run_([&] { form_.EditStep(verb); });
+    });
+    return menu_;
+}
+
+void FormPage::PopUpMenu(const QPoint& global) {
+    if (DesignMenu().Items.Count() > 0) PopUp(menu_, *this, global);
+}
+
+// When the click is done: an editor may open a dialog.
+void FormPage::Activate(TComponent* component) {
     form_.Designer().SelectComponent(component ? component : &form_.Tree().Root());
-    inspector_->GoToDefaultEvent();
+    QTimer::singleShot(0, this, [this] {
+        if (!selected_) return;
+        const auto editor = registry_.ComponentEditorOf(*selected_, form_.Designer());
+        if (!editor) return inspector_->GoToDefaultEvent();
+        run_([&] {
+            form_.EditStep([&] { editor->Edit(); });
+        });
+    });
+}
+
+void FormPage::PlaceComponent(const std::string& className) {
+    run_([&] {
+        TComponent* placed = nullptr;
+        form_.Step([&] { placed = &form_.CreateComponent(className); });
+        form_.Designer().SelectComponent(placed);
+    });
 }
 
 } // namespace glotta

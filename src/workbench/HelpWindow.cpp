@@ -3,6 +3,7 @@
 #include "editors/Excludededitor.h"
 #include "editors/Translationwizard.h"
 #include "editors/_gxcomboproped.h"
+#include "host/StringListEditor.h"
 #include "scanner/Skippedstrings.h"
 #include "scanner/_scan.h"
 #include "settings/_expopt.h"
@@ -13,6 +14,7 @@
 #include "storage/_badidsform.h"
 #include "storage/_stridrepl.h"
 #include "translation/ConfigureLanguages.h"
+#include "translation/ExtendedTranslations.h"
 #include "translation/TransEditor.h"
 #include "translation/TranslUnits.h"
 #include "workbench/QtText.h"
@@ -105,6 +107,7 @@ std::string_view OfferHelp(TForm& form, const Show& show) {
         Entry<TfrmBadIDs>("Bad string identifiers"),
         Entry<TfrmConfigureLanguages>("Configure languages"),
         Entry<TfrmExcludeFromTranslation>("Exclude from translations"),
+        Entry<TfrmExtendedTranslations>("Extended translations"),
         Entry<TfrmFind>("Find and replace phrase"),
         Entry<TfrmFound>("Found strings"),
         Entry<TfrmFoundPhrases>("Find and replace phrase"),
@@ -114,6 +117,7 @@ std::string_view OfferHelp(TForm& form, const Show& show) {
         Entry<TfrmReplConfirm>("Find and replace phrase"),
         Entry<TfrmSkippedStrings>("Skipped strings"),
         Entry<TfrmStrReplace>("Rename of an identifier"),
+        Entry<TStringsEditDlg>("Form designer"),
         Entry<TfrmTransEditor>("Translation editor"),
         Entry<TfrmTranslationWizard>("Translation wizard"),
         Entry<TfrmTranslUnits>("Unit choice"),

@@ -60,6 +60,10 @@ HostWindow::~HostWindow() {
     ide_.Services().services->RemoveNotifier(notifierIndex_);
     ide_.onShow = nullptr;
     ide_.onProblem = nullptr;
+    ide_.Design().OnView = [this] {
+        for (const auto& [module, page] : pages_)
+            page->DesignChanged();
+    };
     ide_.askClose = nullptr;
     workbench_.UiPort().mainWindow = nullptr;
     workbench_.DockWindow = nullptr;
@@ -72,6 +76,7 @@ HostWindow::~HostWindow() {
 }
 
 // --- what it is made of ---
+    ide_.Design().OnView = nullptr;
 
 void HostWindow::BuildWidgets() {
     setObjectName("AppBuilder");
@@ -208,7 +213,7 @@ CodeEditor* HostWindow::Code() const {
 
 UnitPage& HostWindow::MakePage(IOTAModule& module) {
     if (UnitPage* page = PageOf(module)) return *page;
-    auto* page = new UnitPage(module, [this](const auto& command) { Run(command); }, tabs_);
+    auto* page = new UnitPage(module, ide_.Design(), [this](const auto& command) { Run(command); }, tabs_);
     page->OnChanged = [this] { Changed(); };
     page->OnPopup = [this](const QPoint& global) {
         PopUp(editWindow_.EditorLocalMenu, *this, global);

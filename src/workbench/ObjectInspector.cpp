@@ -2,18 +2,21 @@
 
 #include "workbench/QtText.h"
 
+#include <QtGui/QShortcut>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTableWidget>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace glotta {
 namespace {
 
-constexpr int ChoicesRole = Qt::UserRole;
+constexpr int ChoicesRole = Qt::UserRole, OtherTextsRole = Qt::UserRole + 1; // what may be typed besides
 
 // A value with few choices is picked from a list.
 class ValueDelegate : public QStyledItemDelegate {
@@ -24,6 +27,7 @@ public:
         if (choices.isEmpty()) return QStyledItemDelegate::createEditor(parent, option, index);
         auto* combo = new QComboBox(parent);
         combo->addItems(choices);
+        combo->setEditable(index.data(OtherTextsRole).toBool());
         connect(combo, &QComboBox::activated, this, [this, combo] {
             Q_EMIT const_cast<ValueDelegate*>(this)->commitData(combo);
             Q_EMIT const_cast<ValueDelegate*>(this)->closeEditor(combo);
@@ -62,8 +66,8 @@ QTableWidget* MakeTable(QWidget* parent, const QString& name) {
 
 } // namespace
 
-ObjectInspector::ObjectInspector(PlainFormEditor& form, Run run, QWidget* parent)
-    : QWidget(parent), form_(form), run_(std::move(run)) {
+ObjectInspector::ObjectInspector(PlainFormEditor& form, DesignRegistry& registry, Run run, QWidget* parent)
+    : QWidget(parent), form_(form), registry_(registry), run_(std::move(run)) {
     pages_ = new QTabWidget(this);
     pages_->setDocumentMode(true);
     properties_ = MakeTable(pages_, "properties");
@@ -85,12 +89,24 @@ ObjectInspector::ObjectInspector(PlainFormEditor& form, Run run, QWidget* parent
     connect(events_, &QTableWidget::cellDoubleClicked, this, [this](int at, int) {
         if (at < int(rows_[1].size())) GoToEvent(rows_[1][std::size_t(at)].info);
     });
+    connect(properties_, &QTableWidget::cellDoubleClicked, this, [this](int at, int) { OpenDialog(at); });
+    auto* open = new QShortcut(QKeySequence("Ctrl+Return"), properties_);
+    open->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(open, &QShortcut::activated, this, [this] { OpenDialog(properties_->currentRow()); });
     connect(filter_, &QLineEdit::textChanged, this, [this] { Fill(); });
 }
 
 void ObjectInspector::Show(TComponent& component) {
     component_ = &component;
     Fill();
+}
+
+void ObjectInspector::Forget() {
+    component_ = nullptr;
+    for (QTableWidget* table : {properties_, events_})
+        table->setRowCount(0);
+    for (auto& rows : rows_)
+        rows.clear();
 }
 
 void ObjectInspector::Fill() {
@@ -102,7 +118,9 @@ void ObjectInspector::Fill() {
 void ObjectInspector::FillTable(QTableWidget& table, bool events) {
     filling_ = true;
     std::vector<PropertyRow>& rows = rows_[events];
-    rows = PropertyRows(*component_, events);
+    rows = PropertyRows(*component_, events, [this](const PropertyInfo& info) {
+        return registry_.PropertyEditorOf(*component_, info, form_.Designer());
+    });
     std::erase_if(rows, [&](const PropertyRow& row) {
         return !Q(row.info.name).contains(filter_->text(), Qt::CaseInsensitive);
     });
@@ -120,12 +138,15 @@ void ObjectInspector::FillTable(QTableWidget& table, bool events) {
         for (const std::string& choice : row.choices)
             choices << Q(choice);
         value->setData(ChoicesRole, choices);
+        value->setData(OtherTextsRole, row.editor != nullptr);
         if (!row.editable) value->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         QFont font = table.font();
         font.setBold(row.stored);
         value->setFont(font);
         table.setItem(int(i), 0, name);
         table.setItem(int(i), 1, value);
+        table.removeCellWidget(int(i), 1);
+        if (row.hasDialog) AddDialogButton(table, int(i));
     }
     if (current >= 0 && current < table.rowCount()) table.setCurrentCell(current, 1);
     table.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
@@ -135,10 +156,36 @@ void ObjectInspector::FillTable(QTableWidget& table, bool events) {
 
 void ObjectInspector::Entered(QTableWidget& table, int row, int column) {
     if (filling_ || column != 1 || !component_) return;
-    const PropertyRow& property = rows_[&table == events_][std::size_t(row)];
+    const PropertyRow property = rows_[&table == events_][std::size_t(row)];
     const std::string text = S(table.item(row, column)->text());
     if (text == property.text) return;
-    run_([&, info = property.info] { EnterValue(form_, *component_, info, text); });
+    run_([&] { EnterValue(form_, *component_, property, text); });
+    if (OnEntered) OnEntered();
+}
+
+void ObjectInspector::AddDialogButton(QTableWidget& table, int row) {
+    auto* holder = new QWidget;
+    auto* button = new QToolButton(holder);
+    button->setObjectName("dialog");
+    button->setText("...");
+    button->setToolTip("Edit (Ctrl+Enter)");
+    button->setFocusPolicy(Qt::NoFocus);
+    auto* line = new QHBoxLayout(holder);
+    line->setContentsMargins(0, 0, 1, 0);
+    line->addStretch();
+    line->addWidget(button);
+    table.setCellWidget(row, 1, holder);
+    // The button goes when the rows are filled anew, which the dialog may lead to.
+    connect(button, &QToolButton::clicked, this, [this, row] { OpenDialog(row); }, Qt::QueuedConnection);
+}
+
+void ObjectInspector::OpenDialog(int row) {
+    if (!component_ || row < 0 || row >= int(rows_[0].size())) return;
+    const PropertyRow property = rows_[0][std::size_t(row)];
+    if (!property.hasDialog) return;
+    run_([&] {
+        form_.EditStep([&] { property.editor->Edit(); });
+    });
     if (OnEntered) OnEntered();
 }
 

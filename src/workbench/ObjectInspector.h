@@ -1,5 +1,6 @@
 // The properties and events of one component of a form, to look at and to change.
 #pragma once
+#include "host/DesignRegistry.h"
 #include "host/FormEditor.h"
 #include "workbench/PropertyValues.h"
 
@@ -15,7 +16,7 @@ class ObjectInspector : public QWidget {
 public:
     using Run = std::function<void(const std::function<void()>&)>;
     // `run` runs what the person asked for, to its end or its message.
-    ObjectInspector(PlainFormEditor& form, Run run, QWidget* parent);
+    ObjectInspector(PlainFormEditor& form, DesignRegistry& registry, Run run, QWidget* parent);
 
     void Show(TComponent& component);
     // To the method of the event that a double click on the component means.
@@ -23,15 +24,19 @@ public:
     QTableWidget& Properties() { return *properties_; }
     QTableWidget& Events() { return *events_; }
 
+    void Forget(); // the component and its editors
     std::function<void()> OnEntered; // a value was taken or refused
 
 private:
     void Fill();
     void FillTable(QTableWidget& table, bool events);
     void Entered(QTableWidget& table, int row, int column);
+    void AddDialogButton(QTableWidget& table, int row);
+    void OpenDialog(int row); // of a property's editor
     void GoToEvent(const PropertyInfo& info);
 
     PlainFormEditor& form_;
+    DesignRegistry& registry_;
     Run run_;
     TComponent* component_ = nullptr;
     QTabWidget* pages_;

@@ -112,20 +112,34 @@ void SetEvent(PlainFormEditor& form, TComponent& component, const PropertyInfo& 
                             method.empty() ? method : form.Designer().CreateMethod(method, MethodTypeOf(info)));
 }
 
+// What a registered editor says of its property goes before what its value says.
+void AskEditor(PropertyRow& row, std::unique_ptr<IProperty> editor) {
+    const TPropertyAttributes attributes = editor->GetAttributes();
+    row.text = editor->GetValue();
+    row.editable = !(attributes & paReadOnly);
+    row.hasDialog = attributes & paDialog;
+    row.choices = attributes & paValueList ? editor->GetValues() : std::vector<std::string>();
+    if (attributes & paSortList)
+        std::sort(row.choices.begin(), row.choices.end(),
+                  [](const std::string& a, const std::string& b) { return CompareText(a, b) < 0; });
+    row.editor = std::move(editor);
+}
+
 } // namespace
 
-std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events) {
+std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events, const EditorOf& editorOf) {
     std::vector<PropertyRow> rows;
     if (!events)
-        rows.push_back({{"Name", "TComponentName", TTypeKind::tkLString}, component.Name(), true, true, {}});
+        rows.push_back({{"Name", "TComponentName", TTypeKind::tkLString}, component.Name(), true, true, {}, {}});
     for (PropertyInfo& info : component.PublishedProperties()) {
         if ((info.kind == TTypeKind::tkMethod) != events || SameText(info.name, "Name")) continue;
-        PropertyRow row{std::move(info), {}, false, false, {}};
+        PropertyRow row{std::move(info), {}, false, false, {}, {}};
         const FormProperty* stored = component.Node().Find(row.info.name);
-        row.stored = stored != nullptr;
+        row.stored = stored || component.Node().Find(row.info.name + ".Strings");
         if (stored) row.text = TextOf(stored->value);
         row.editable = IsSimple(row.info);
         if (IsBoolean(row.info, stored)) row.choices = {"False", "True"};
+        if (auto editor = editorOf(row.info)) AskEditor(row, std::move(editor));
         rows.push_back(std::move(row));
     }
     std::stable_sort(rows.begin() + (events ? 0 : 1), rows.end(),
@@ -133,22 +147,25 @@ std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events) 
     return rows;
 }
 
-void EnterValue(PlainFormEditor& form, TComponent& component, const PropertyInfo& info, const std::string& text) {
-    if (info.kind == TTypeKind::tkMethod)
-        SetEvent(form, component, info, text);
-    else if (info.name == "Name")
-        form.Designer().RenameComponent(component, text);
-    else
-        SetProperty(component, info, text);
-    form.Designer().Modified();
+void EnterValue(PlainFormEditor& form, TComponent& component, const PropertyRow& row, const std::string& text) {
+    const PropertyInfo& info = row.info;
+    form.Step([&] {
+        if (row.editor)
+            row.editor->SetValue(text);
+        else if (info.kind == TTypeKind::tkMethod)
+            SetEvent(form, component, info, text);
+        else if (info.name == "Name")
+            form.Designer().RenameComponent(component, text);
+        else
+            SetProperty(component, info, text);
+    });
 }
 
 std::string EventMethod(PlainFormEditor& form, TComponent& component, const PropertyInfo& info) {
     if (std::string method = component.GetMethodProp(info.name); !method.empty()) return method;
     const std::string event = info.name.starts_with("On") ? info.name.substr(2) : info.name;
     const bool isRoot = &component == &form.Tree().Root();
-    SetEvent(form, component, info, (isRoot ? "Form" : component.Name()) + event);
-    form.Designer().Modified();
+    form.Step([&] { SetEvent(form, component, info, (isRoot ? "Form" : component.Name()) + event); });
     return component.GetMethodProp(info.name);
 }
 

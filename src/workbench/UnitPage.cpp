@@ -12,8 +12,8 @@
 
 namespace glotta {
 
-UnitPage::UnitPage(IOTAModule& module, Run run, QWidget* parent)
-    : QTabWidget(parent), module_(module), run_(std::move(run)) {
+UnitPage::UnitPage(IOTAModule& module, DesignRegistry& registry, Run run, QWidget* parent)
+    : QTabWidget(parent), module_(module), registry_(registry), run_(std::move(run)) {
     setTabPosition(South);
     setDocumentMode(true);
     for (int i = 0; i < module_.GetModuleFileCount(); ++i) {
@@ -72,7 +72,7 @@ QWidget* UnitPage::Made(int index) {
         };
         made = code;
     } else if (auto* form = dynamic_cast<PlainFormEditor*>(editor)) {
-        made = new FormPage(*form, run_, widget(index));
+        made = new FormPage(*form, registry_, run_, widget(index));
     }
     room->addWidget(made);
     widget(index)->setFocusProxy(made);
@@ -88,6 +88,16 @@ FormPage* UnitPage::Form() {
     for (int i = 0; i < count(); ++i)
         if (dynamic_cast<PlainFormEditor*>(editors_[std::size_t(i)])) return dynamic_cast<FormPage*>(Made(i));
     return nullptr;
+}
+
+PlainFormEditor* UnitPage::ShownForm() {
+    return count() > 0 ? dynamic_cast<PlainFormEditor*>(editors_[std::size_t(currentIndex())]) : nullptr;
+}
+
+void UnitPage::DesignChanged() {
+    for (int i = 0; i < count(); ++i)
+        if (const QLayoutItem* made = widget(i)->layout()->itemAt(0))
+            if (auto* form = dynamic_cast<FormPage*>(made->widget())) form->DesignChanged();
 }
 
 void UnitPage::ShowCode() {

@@ -8,13 +8,15 @@
 namespace glotta {
 
 class CodeEditor;
+class DesignRegistry;
 class FormPage;
+class PlainFormEditor;
 
 class UnitPage : public QTabWidget {
     Q_OBJECT // it is told from other tab widgets
 public:
     using Run = std::function<void(const std::function<void()>&)>;
-    UnitPage(IOTAModule& module, Run run, QWidget* parent);
+    UnitPage(IOTAModule& module, DesignRegistry& registry, Run run, QWidget* parent);
     ~UnitPage() override;
 
     IOTAModule& Module() { return module_; }
@@ -22,6 +24,8 @@ public:
     void Prepare();        // makes what is to be seen
     CodeEditor* Code();    // of the shown source, else of the unit; nil when the module has no source
     FormPage* Form();
+    PlainFormEditor* ShownForm(); // nil while a source is shown
+    void DesignChanged(); // packages came or went
     void ShowCode();
     void ShowForm();
     void ToggleForm();
@@ -36,6 +40,7 @@ protected:
 private:
     QWidget* Made(int index);
     IOTAModule& module_;
+    DesignRegistry& registry_;
     Run run_;
     std::vector<IOTAEditor*> editors_; // by tab
 };

@@ -1,12 +1,16 @@
 #include "workbench/Workbench.h"
 
-#include "expert/Glottaexp.h"
+#include "host/IdeEditors.h"
+#include "package/Gxdialog_reg.h"
+#include "package/Gxreg.h"
 #include "workbench/HelpWindow.h"
 
 namespace glotta {
 
 Workbench::Workbench(const std::optional<std::filesystem::path>& registryFile)
-    : registry_(OpenRegistry(registryFile)), ide_(std::make_unique<PlainIde>()) {}
+    : registry_(OpenRegistry(registryFile)), ide_(std::make_unique<PlainIde>()) {
+    RegisterIdeEditors(ide_->Design(), ui_);
+}
 
 Workbench::~Workbench() = default;
 
@@ -18,7 +22,14 @@ void Workbench::LoadExpert() {
         if (const auto expert = Expert()) ShowHelp(MainWindowHelp, *ui_.WindowOf(*expert->MainWindow()));
     };
     if (DockWindow) ports.DockWindow = DockWindow;
-    expert_ = ExpRegister(std::move(ports));
+    package_ = ide_->Design().NewEditorGroup();
+    expert_ = Gxreg::Register(std::move(ports));
+    Gxdialog_reg::Register(ide_->Design());
+}
+
+void Workbench::UnloadExpert() {
+    ide_->Design().FreeEditorGroup(package_);
+    ide_->PackageWizards().UnloadAll();
 }
 
 } // namespace glotta

@@ -30,7 +30,7 @@ public:
 
     // The expert's package, as an IDE loads and unloads packages.
     void LoadExpert();
-    void UnloadExpert() { ide_->PackageWizards().UnloadAll(); }
+    void UnloadExpert();
     std::shared_ptr<TGlottaExpert> Expert() const { return expert_.lock(); }
 
     // The host's: docks or frees the expert's main window.
@@ -45,6 +45,7 @@ private:
     std::unique_ptr<Automation> automation_ = SystemAutomation();
     std::unique_ptr<PlainIde> ide_; // unloads the expert when it goes, so it goes first
     std::weak_ptr<TGlottaExpert> expert_;
+    int package_ = 0; // its group of registrations
 };
 
 } // namespace glotta
