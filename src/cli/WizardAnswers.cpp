@@ -35,7 +35,8 @@ public:
 
     WizardAnswers Read() {
         for (const std::string& section : ini_.Sections()) {
-            const bool known = SameText(section, Forms) || SameText(section, Languages) || SameText(section, Properties);
+            const bool known =
+                SameText(section, Forms) || SameText(section, Languages) || SameText(section, Properties);
             if (!known) throw Error(answers_.file + ": [" + section + "] is no page of the wizard");
             for (const std::string& key : ini_.Keys(section))
                 Take(section, key, ini_.ReadString(section, key, {}));
@@ -48,7 +49,8 @@ public:
     }
 
 private:
-    [[noreturn]] void Refuse(const std::string& section, const std::string& key, const std::string& why) const {
+    [[noreturn]] void Refuse(const std::string& section, const std::string& key,
+                             const std::string& why) const {
         throw Error(answers_.file + ": [" + section + "] " + key + ": " + why);
     }
 
@@ -66,7 +68,8 @@ private:
         if (!SameText(value, NoComponent)) {
             const auto known = std::find_if(WizardClasses.begin(), WizardClasses.end(),
                                             [&](std::string_view name) { return SameText(name, value); });
-            if (known == WizardClasses.end()) Refuse(section, key, "there is no class \"" + value + "\" to insert");
+            if (known == WizardClasses.end())
+                Refuse(section, key, "there is no class \"" + value + "\" to insert");
             insert = *known;
         }
         if (key == "*")
@@ -78,7 +81,8 @@ private:
     void TakeLanguages(const std::string& section, const std::string& key, const std::string& value) {
         if (value.empty()) Refuse(section, key, "a value is missing");
         const std::size_t dot = value.find('.');
-        const std::string form = value.substr(0, dot), name = dot == std::string::npos ? "" : value.substr(dot + 1);
+        const std::string form = value.substr(0, dot),
+                          name = dot == std::string::npos ? "" : value.substr(dot + 1);
         if (SameText(key, "CommonContainer")) {
             answers_.commonForm = form;
             answers_.commonContainer = name;
@@ -99,11 +103,13 @@ private:
     }
 
     void TakeProperty(const std::string& section, const std::string& key, const std::string& value) {
-        const auto property = std::find_if(WizardProperties.begin(), WizardProperties.end(),
-                                           [&](const WizardProperty& each) { return SameText(each.name, key); });
+        const auto property =
+            std::find_if(WizardProperties.begin(), WizardProperties.end(),
+                         [&](const WizardProperty& each) { return SameText(each.name, key); });
         if (property == WizardProperties.end()) Refuse(section, key, "there is no such property");
         const bool on = SameText(value, "True") || value == "1";
-        if (!on && !SameText(value, "False") && value != "0") Refuse(section, key, "True or False is expected");
+        if (!on && !SameText(value, "False") && value != "0")
+            Refuse(section, key, "True or False is expected");
         answers_.changeProperties = true;
         answers_.properties[std::size_t(property - WizardProperties.begin())] = on;
     }

@@ -12,10 +12,10 @@ namespace glotta {
 struct WizardAnswers {
     std::string file;
     std::vector<std::pair<std::string, std::string>> forms; // form and class to insert, or NoComponent
-    std::optional<std::string> otherForms; // the class for all other forms that have none
-    std::string dispatcherForm, dispatcher; // without a name: a new one
-    std::optional<std::string> languages;   // as comma text
-    std::string commonForm, commonContainer; // without a name: the one that is inserted
+    std::optional<std::string> otherForms;                  // the class for all other forms that have none
+    std::string dispatcherForm, dispatcher;                 // without a name: a new one
+    std::optional<std::string> languages;                   // as comma text
+    std::string commonForm, commonContainer;                // without a name: the one that is inserted
     bool changeProperties = false;
     std::array<bool, WizardPropertyCount> properties{};
 

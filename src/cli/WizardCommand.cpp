@@ -105,7 +105,8 @@ private:
             return Choose(wizard.cbCommonContainer, wizard.CommonContainers, answers_.commonContainer, key);
         const auto inserted = insert_.find(form);
         if (inserted == insert_.end() || !CanBeContainer(inserted->second))
-            throw Error(answers_.file + ": " + key + ": no container is inserted there; write it as Form.Component");
+            throw Error(answers_.file + ": " + key +
+                        ": no container is inserted there; write it as Form.Component");
         Choose(wizard.cbCommonContainer, wizard.CommonContainers, NewlyInserted(inserted->second), key);
     }
 
@@ -146,11 +147,13 @@ private:
 void AddWizardCommand(const CommandLine& line) {
     const auto options = std::make_shared<WizardOptions>();
     CLI::App* app = line.app.add_subcommand(
-        "wizard", "Put localization components on forms and connect them (a dry run without --apply; exit code 2 "
-                  "when a form could not be done)");
+        "wizard",
+        "Put localization components on forms and connect them (a dry run without --apply; exit code 2 "
+        "when a form could not be done)");
     app->add_flag("--apply", options->apply, "Write the files (all or none); without it nothing is written");
     app->add_option("PROJECT", options->project, "The project file")->required();
-    app->add_option("ANSWERS", options->answers, "An INI file with the answers to the wizard's pages")->required();
+    app->add_option("ANSWERS", options->answers, "An INI file with the answers to the wizard's pages")
+        ->required();
     app->footer(WizardAnswersHelp);
     app->final_callback([&line = line, options] {
         line.run = [&global = line.global, options] { return WizardRun(global, *options).Run(); };

@@ -55,6 +55,7 @@ void FormTakeBack::UndoUnit() {
 }
 
 void FormTakeBack::RestoreComponents(IOTAFormEditor& editor) {
+    if (!editor.Modified()) return; // so nothing was changed
     const std::vector<TComponent*> present = editor.Designer().Root().Components();
     for (TComponent* component : present)
         if (!components_.contains(component)) editor.DeleteComponent(*component);

@@ -12,8 +12,8 @@ namespace glotta {
 
 class FormTakeBack {
 public:
-    // Of an open form it remembers unit and localization components; one that is closed needs none of that: it
-    // is closed again without saving.
+    // Of an open form it remembers unit and localization components; one that is closed needs none of that:
+    // it is closed again without saving.
     FormTakeBack(IdeServices& ide, FormsListItem& item);
 
     bool WasOpen() const { return wasOpen_; }

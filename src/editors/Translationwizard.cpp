@@ -12,8 +12,8 @@ namespace {
 std::vector<WizardForm> RowsOf(FormsList& forms, const std::string& defaultComponent) {
     std::vector<WizardForm> rows;
     for (const FormsListItem* item : forms.Selected())
-        rows.push_back(
-            {item->formName, item->glotta, item->glotta.empty() ? defaultComponent : std::string(NoComponent)});
+        rows.push_back({item->formName, item->glotta,
+                        item->glotta.empty() ? defaultComponent : std::string(NoComponent)});
     return rows;
 }
 
@@ -27,7 +27,8 @@ std::string FailureText(const std::vector<WizardActions::Failure>& failures) {
 } // namespace
 
 TfrmTranslationWizard::TfrmTranslationWizard(Context context)
-    : lvSelectedForms(RowsOf(context.ide.Forms(), context.settings.DefaultComp)), context_(std::move(context)) {
+    : lvSelectedForms(RowsOf(context.ide.Forms(), context.settings.DefaultComp)),
+      context_(std::move(context)) {
     caption = "Translation Wizard";
     GlottaClasses.emplace_back(NoComponent);
     GlottaClasses.insert(GlottaClasses.end(), WizardClasses.begin(), WizardClasses.end());
@@ -50,24 +51,44 @@ TfrmTranslationWizard::TfrmTranslationWizard(Context context)
 }
 
 void TfrmTranslationWizard::SetUpActions() {
-    btnBack = {"<< &Back", {}, {}, [this] { SetPage(WizardPage(Page() - 1)); },
-               [this] { return BackVisible() && Page() < tsPerform; }, {}};
-    btnNext = {"&Next >>", {}, {}, [this] { SetPage(WizardPage(Page() + 1)); }, [this] { return CanGoNext(); }, {}};
-    btnClose = {"Close", {}, {},
+    btnBack = {"<< &Back",
+               {},
+               {},
+               [this] { SetPage(WizardPage(Page() - 1)); },
+               [this] { return BackVisible() && Page() < tsPerform; },
+               {}};
+    btnNext = {
+        "&Next >>", {}, {}, [this] { SetPage(WizardPage(Page() + 1)); }, [this] { return CanGoNext(); }, {}};
+    btnClose = {"Close",
+                {},
+                {},
                 [this] { Close(UiPort(), Page() == tsFinal ? ModalResult::OK : ModalResult::Cancel); },
-                [this] { return Page() != tsPerform; }, {}};
-    lbStructure = {"Click here to display recommended structure preview...", {}, {},
-                   [this] { imgStructure.Set(true); }, {}, {}};
-    rbSetDispatcher = {"Set &LangDispatcher property to", {}, {}, [this] { SetManually(false); }, {},
-                       [this] { return !manually_; }};
-    rbSetManually = {"Set languages settings &manually", {}, {}, [this] { SetManually(true); }, {},
-                     [this] { return manually_; }};
-    btnCreateDispatcher = {"Create &new...", {}, {}, [this] { CreateDispatcher(); },
-                           [this] { return !manually_ && !cbDispatcherForm().empty(); }, {}};
-    btnConfigureDispatcher = {"&Configure...", {}, {}, [this] { ConfigureDispatcher(); },
-                              [this] { return !manually_ && CanGoNextDispatcher(); }, {}};
-    btnConfigureLanguages = {"&Configure...", {}, {}, [this] { ConfigureManually(); },
-                             [this] { return manually_; }, {}};
+                [this] { return Page() != tsPerform; },
+                {}};
+    lbStructure = {"Click here to display recommended structure preview...",
+                   {},
+                   {},
+                   [this] { imgStructure.Set(true); },
+                   {},
+                   {}};
+    rbSetDispatcher = {"Set &LangDispatcher property to", {}, {},
+                       [this] { SetManually(false); },    {}, [this] { return !manually_; }};
+    rbSetManually = {"Set languages settings &manually", {}, {},
+                     [this] { SetManually(true); },      {}, [this] { return manually_; }};
+    btnCreateDispatcher = {"Create &new...",
+                           {},
+                           {},
+                           [this] { CreateDispatcher(); },
+                           [this] { return !manually_ && !cbDispatcherForm().empty(); },
+                           {}};
+    btnConfigureDispatcher = {"&Configure...",
+                              {},
+                              {},
+                              [this] { ConfigureDispatcher(); },
+                              [this] { return !manually_ && CanGoNextDispatcher(); },
+                              {}};
+    btnConfigureLanguages = {
+        "&Configure...", {}, {}, [this] { ConfigureManually(); }, [this] { return manually_; }, {}};
 }
 
 // --- pages ---

@@ -37,7 +37,7 @@ public:
     WizardFormsGrid lvSelectedForms;
     TField<std::string> cbGlottaToInsert;
     std::vector<std::string> GlottaClasses;
-    TAction lbStructure;             // shows the picture
+    TAction lbStructure;              // shows the picture
     TField<bool> imgStructure{false}; // whether it shows
     static constexpr const char* StructureCaption = "Recommended Structure. (Click on image to close)";
 

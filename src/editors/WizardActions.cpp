@@ -131,7 +131,8 @@ TgxCustomLang& WizardActions::Insert(const std::string& formName, const std::str
 void WizardActions::SetUp(TgxCustomLang& component, FormsListItem& item) {
     if (!ide_.GetDesignerByFormName(item.formName)) throw Error("the form has no designer");
     if (choices_.setDispatcher)
-        SetReference(component, item.formName, "LangDispatcher", choices_.dispatcherForm, choices_.dispatcher);
+        SetReference(component, item.formName, "LangDispatcher", choices_.dispatcherForm,
+                     choices_.dispatcher);
     else if (!languages_.empty()) // a list without names would cut all languages but one
         translation_.ConfigureLangComponent(int(languages_.size()), item, languages_, component.Name(),
                                             "TgxCustomLang", false);

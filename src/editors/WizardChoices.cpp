@@ -12,7 +12,8 @@ const std::array<WizardProperty, WizardPropertyCount> WizardProperties = {{
     {"DoRaiseExceptions", [](TgxCustomLang& c, bool on) { c.SetBoolProp("DoRaiseExceptions", on); }},
     {"IsInheritedOwner", [](TgxCustomLang& c, bool on) { c.SetBoolProp("IsInheritedOwner", on); }},
     {"StoreAsUTF8", [](TgxCustomLang& c, bool on) { c.SetStoreAsUTF8(on); }},
-    {"TranslateExtendedFirst", [](TgxCustomLang& c, bool on) { c.SetBoolProp("TranslateExtendedFirst", on); }},
+    {"TranslateExtendedFirst",
+     [](TgxCustomLang& c, bool on) { c.SetBoolProp("TranslateExtendedFirst", on); }},
     {"UseDefaultLanguage", [](TgxCustomLang& c, bool on) { c.SetUseDefaultLanguage(on); }},
     {"UseTaskMsgDlg", [](TgxCustomLang& c, bool on) { c.SetBoolProp("UseTaskMsgDlg", on); }},
 }};

@@ -33,7 +33,7 @@ extern const std::array<WizardProperty, WizardPropertyCount> WizardProperties;
 
 struct WizardForm {
     std::string form;
-    std::string used;                           // the class on the form, empty without one
+    std::string used;                // the class on the form, empty without one
     std::string insert{NoComponent}; // the class to insert
 
     bool Inserts() const { return insert != NoComponent; }

@@ -11,7 +11,8 @@ class WizardFormsGrid : public TGrid {
 public:
     enum Column { FormName, Used, ToInsert, Columns };
 
-    explicit WizardFormsGrid(std::vector<WizardForm> rows) : TGrid(Picking::Extended), rows_(std::move(rows)) {}
+    explicit WizardFormsGrid(std::vector<WizardForm> rows)
+        : TGrid(Picking::Extended), rows_(std::move(rows)) {}
     const std::vector<WizardForm>& Rows() const { return rows_; }
     void SetInsert(std::size_t row, const std::string& componentClass) {
         rows_[row].insert = componentClass;

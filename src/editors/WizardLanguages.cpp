@@ -60,8 +60,10 @@ void TfrmTranslationWizard::EnableChoices() {
 }
 
 void TfrmTranslationWizard::EnterLanguages() {
-    if (edLanguagesToUse().empty())
-        edLanguagesToUse.Set(CommaText(SplitLines(context_.settings.DefaultLangNames)));
+    if (edLanguagesToUse().empty()) {
+        const std::vector<std::string> names = SplitLines(context_.settings.DefaultLangNames);
+        edLanguagesToUse.Set(CommaText(names.empty() ? NamesOfNewDispatcher(context_.settings) : names));
+    }
     if (cbCommonForm().empty()) cbCommonForm.Set(FirstContainerForm());
     if (!cbDispatcherForm().empty()) RefillDispatchers();
     if (!cbCommonForm().empty()) RefillContainers();
@@ -126,8 +128,8 @@ void TfrmTranslationWizard::CreateDispatcher() {
             context_.translation.InsertComponentOnForm(item->formName, "TGlottaDispatcher");
         if (!dispatcher) return before.TakeBack();
         const std::string name = dispatcher->Name();
-        context_.translation.ConfigureLangComponent(int(names.size()), *item, names, name, "TGlottaDispatcher",
-                                                    false);
+        context_.translation.ConfigureLangComponent(int(names.size()), *item, names, name,
+                                                    "TGlottaDispatcher", false);
         if (!before.WasOpen()) {
             if (!ide.SaveFile(item->fileName)) throw Error(item->fileName + " could not be saved");
             ide.CloseFile(item->fileName);

@@ -13,13 +13,13 @@ std::string FillRequestedActions(const WizardChoices& choices) {
     if (lines.size() == 1) lines.push_back("\t(None)");
 
     lines.insert(lines.end(), {"", "Languages settings:"});
-    lines.push_back(choices.setDispatcher
-                        ? "\tUse " + choices.dispatcher + " from " + choices.dispatcherForm
-                        : "\tSet " + choices.languages + " as languages settings");
+    lines.push_back(choices.setDispatcher ? "\tUse " + choices.dispatcher + " from " + choices.dispatcherForm
+                                          : "\tSet " + choices.languages + " as languages settings");
     lines.push_back("");
     if (choices.setCommonContainer) {
         lines.push_back("CommonContainer settings:");
-        lines.push_back("\tSet CommonContainer to " + choices.commonContainer + " from " + choices.commonForm);
+        lines.push_back("\tSet CommonContainer to " + choices.commonContainer + " from " +
+                        choices.commonForm);
     }
     if (choices.changeProperties) {
         lines.push_back("Additional settings:");

@@ -17,14 +17,16 @@ struct WizardDesk {
         std::string uses;
         for (std::size_t i = 0; i < components.size(); ++i) {
             const std::string n = std::to_string(i + 1), form = (i == 0 ? "Data" : "Form") + n;
-            folder.Put("Unit" + n + ".pas",
-                       "unit Unit" + n + ";\r\n\r\ninterface\r\n\r\nuses\r\n  Forms;\r\n\r\ntype\r\n  T" + form +
-                           " = class(TForm)\r\n  end;\r\n\r\nimplementation\r\n\r\n{$R *.dfm}\r\n\r\nend.\r\n");
-            folder.Put("Unit" + n + ".dfm", "object " + form + ": T" + form + "\r\n" + components[i] + "end\r\n");
+            folder.Put(
+                "Unit" + n + ".pas",
+                "unit Unit" + n + ";\r\n\r\ninterface\r\n\r\nuses\r\n  Forms;\r\n\r\ntype\r\n  T" + form +
+                    " = class(TForm)\r\n  end;\r\n\r\nimplementation\r\n\r\n{$R *.dfm}\r\n\r\nend.\r\n");
+            folder.Put("Unit" + n + ".dfm",
+                       "object " + form + ": T" + form + "\r\n" + components[i] + "end\r\n");
             uses += ",\r\n  Unit" + n + " in 'Unit" + n + ".pas' {" + form + "}";
         }
-        ide.OpenProject(PathText(
-            folder.Put("App.dpr", "program App;\r\n\r\nuses\r\n  Forms" + uses + ";\r\n\r\nbegin\r\nend.\r\n")));
+        ide.OpenProject(PathText(folder.Put("App.dpr", "program App;\r\n\r\nuses\r\n  Forms" + uses +
+                                                           ";\r\n\r\nbegin\r\nend.\r\n")));
         std::vector<std::string> errors;
         forms = ListProjectForms(*services.GetActiveProject(), errors);
         settings.DefaultLangNames = "English\r\nGerman";
@@ -34,8 +36,8 @@ struct WizardDesk {
     TfrmTranslationWizard& Wizard(const std::string& selected) {
         for (FormsListItem& item : forms.items)
             item.selected = (" " + selected + " ").find(" " + item.formName + " ") != std::string::npos;
-        wizard = std::make_unique<TfrmTranslationWizard>(TfrmTranslationWizard::Context{
-            services, translation, settings, {}, {}, [this] { ++refreshes; }});
+        wizard = std::make_unique<TfrmTranslationWizard>(
+            TfrmTranslationWizard::Context{services, translation, settings, {}, {}, [this] { ++refreshes; }});
         return *wizard;
     }
     void Choose(TField<std::string>& field, const std::string& value) { field.Enter(value); }
@@ -103,12 +105,13 @@ TEST(WizardMemo, TellsEveryActionInOrder) {
     choices.languages = "English,German";
     choices.changeProperties = true;
     choices.properties[4] = true;
-    EXPECT_EQ(memo(), "The following components will be inserted:\n\tMain:\tTGlotta\n\tAbout:\tTGlottaLinked\n\n"
-                      "Languages settings:\n\tSet English,German as languages settings\n\nAdditional settings:\n"
-                      "\tSet AutoSkipEmpties property to False\n\tSet ChangeLocales property to False\n"
-                      "\tSet DoRaiseExceptions property to False\n\tSet IsInheritedOwner property to False\n"
-                      "\tSet StoreAsUTF8 property to True\n\tSet TranslateExtendedFirst property to False\n"
-                      "\tSet UseDefaultLanguage property to False\n\tSet UseTaskMsgDlg property to False");
+    EXPECT_EQ(memo(),
+              "The following components will be inserted:\n\tMain:\tTGlotta\n\tAbout:\tTGlottaLinked\n\n"
+              "Languages settings:\n\tSet English,German as languages settings\n\nAdditional settings:\n"
+              "\tSet AutoSkipEmpties property to False\n\tSet ChangeLocales property to False\n"
+              "\tSet DoRaiseExceptions property to False\n\tSet IsInheritedOwner property to False\n"
+              "\tSet StoreAsUTF8 property to True\n\tSet TranslateExtendedFirst property to False\n"
+              "\tSet UseDefaultLanguage property to False\n\tSet UseTaskMsgDlg property to False");
 }
 
 TEST(Wizard, PagesAndTheirRules) {
@@ -148,7 +151,8 @@ TEST(Wizard, PagesAndTheirRules) {
     EXPECT_TRUE(wizard.gbProperties[0].Enabled());
     note();
     desk.Next(1);
-    EXPECT_EQ(wizard.memActions().substr(0, 66), "The following components will be inserted:\r\n\tForm2:\tTGlotta\r\n\r\nLan");
+    EXPECT_EQ(wizard.memActions().substr(0, 66),
+              "The following components will be inserted:\r\n\tForm2:\tTGlotta\r\n\r\nLan");
     note();
     EXPECT_EQ(desk.OpenUnits(), ""); // looked into, nothing more
     desk.Next(1);
@@ -173,11 +177,13 @@ TEST(Wizard, TheInsertColumnFollowsTheCombo) {
     EXPECT_FALSE(wizard.cbGlottaToInsert.Enabled());
     EXPECT_EQ(rows(), "Data1|TGlotta|(none); Form2||TGlotta; Form3||TGlotta; ");
     wizard.lvSelectedForms.SelectOnly(1);
-    EXPECT_EQ(wizard.cbGlottaToInsert() + (wizard.cbGlottaToInsert.Enabled() ? " enabled" : ""), "TGlotta enabled");
+    EXPECT_EQ(wizard.cbGlottaToInsert() + (wizard.cbGlottaToInsert.Enabled() ? " enabled" : ""),
+              "TGlotta enabled");
     wizard.lvSelectedForms.Click(2, true);
     desk.Choose(wizard.cbGlottaToInsert, "TGlottaLinked");
     EXPECT_EQ(rows(), "Data1|TGlotta|(none); Form2||TGlottaLinked; Form3||TGlottaLinked; ");
-    EXPECT_EQ(JoinLines(wizard.GlottaClasses, " "), "(none) TGlotta TGlottaRTSE TGlottaRT TGlottaLinked TGlottaTLV");
+    EXPECT_EQ(JoinLines(wizard.GlottaClasses, " "),
+              "(none) TGlotta TGlottaRTSE TGlottaRT TGlottaLinked TGlottaTLV");
 }
 
 // Closed forms end saved and closed, the open one stays open and unsaved; the new container stands once.
@@ -206,21 +212,26 @@ TEST(Wizard, InsertsConnectsAndConfigures) {
     const auto component = [](const char* name, const char* own, const char* refs) {
         return std::string("  object ") + name + "\r\n" + refs +
                "    AutoSkipEmpties = False\r\n    ChangeLocales = False\r\n    DoRaiseExceptions = False\r\n"
-               "    IsInheritedOwner = False\r\n    StoreAsUTF8 = False\r\n    TranslateExtendedFirst = False\r\n"
-               "    UseDefaultLanguage = False\r\n    UseTaskMsgDlg = True\r\n" + own + "  end\r\n";
+               "    IsInheritedOwner = False\r\n    StoreAsUTF8 = False\r\n    TranslateExtendedFirst = "
+               "False\r\n"
+               "    UseDefaultLanguage = False\r\n    UseTaskMsgDlg = True\r\n" +
+               own + "  end\r\n";
     };
     EXPECT_EQ(desk.File("1"), "object Data1: TData1\r\n" + Dispatcher +
                                   component("Glotta1: TGlotta", "    Left = 8\r\n    Top = 8\r\n",
-                                            "    LangDispatcher = GlottaDispatcher1\r\n") + "end\r\n");
+                                            "    LangDispatcher = GlottaDispatcher1\r\n") +
+                                  "end\r\n");
     EXPECT_EQ(desk.File("2"),
               "object Form2: TForm2\r\n" +
                   component("GlottaLinked1: TGlottaLinked",
                             "    CommonContainer = Data1.Glotta1\r\n    Left = 8\r\n    Top = 8\r\n",
-                            "    LangDispatcher = Data1.GlottaDispatcher1\r\n") + "end\r\n");
+                            "    LangDispatcher = Data1.GlottaDispatcher1\r\n") +
+                  "end\r\n");
     EXPECT_EQ(desk.File("3"), third);
-    EXPECT_EQ(desk.File("4"), "object Form4: TForm4\r\n" +
-                                  component("Glotta1: TGlotta", "", "    LangDispatcher = Data1.GlottaDispatcher1\r\n") +
-                                  "end\r\n");
+    EXPECT_EQ(desk.File("4"),
+              "object Form4: TForm4\r\n" +
+                  component("Glotta1: TGlotta", "", "    LangDispatcher = Data1.GlottaDispatcher1\r\n") +
+                  "end\r\n");
     EXPECT_EQ(desk.OpenUnits(), "Form3* ");
     EXPECT_NE(ReadFile(desk.folder / "Unit2.pas").find("GlottaLinked1: TGlottaLinked;"), std::string::npos);
     EXPECT_TRUE(desk.ui.Transcript().empty()) << desk.ui.Transcript();
@@ -238,18 +249,19 @@ TEST(Wizard, AFormThatFailsIsNamedAndLeftAsItWas) {
     desk.Choose(wizard.edLanguagesToUse, "English,Dutch");
     wizard.ckbSetCommonContainer.Enter(false);
     desk.Next(2);
-    const std::string refused =
-        "Unable to insert TGlotta component! Error message:\r\nthe unit declares no class TForm4\r\nPlease make "
-        "sure the active project is a VCL application. If you have installed both CLX and VCL version please repeat "
-        "your last action once again.";
+    const std::string refused = "Unable to insert TGlotta component! Error message:\r\nthe unit declares no "
+                                "class TForm4\r\nPlease make "
+                                "sure the active project is a VCL application. If you have installed both "
+                                "CLX and VCL version please repeat "
+                                "your last action once again.";
     const std::string failed =
         "The following forms could not be configured and are left as they were:\r\nForm2: " +
         PathText(desk.folder / "Unit2.dfm") +
         ": the file was changed by another program since it was opened; nothing was saved\r\nForm4";
     desk.ui.Message(refused).Message(failed);
     desk.Next(1);
-    EXPECT_EQ(desk.ui.Transcript(), "Error [TGlotta Expert (VCL Edition)]: " + refused + " -> OK\nWarning: " + failed +
-                                        " -> OK\n");
+    EXPECT_EQ(desk.ui.Transcript(),
+              "Error [TGlotta Expert (VCL Edition)]: " + refused + " -> OK\nWarning: " + failed + " -> OK\n");
     EXPECT_EQ(wizard.lbFinal(), failed);
     EXPECT_EQ(desk.File("2"), second + " ");
     EXPECT_EQ(desk.OpenUnits(), "");
@@ -343,7 +355,8 @@ TEST(Wizard, QuestionsBothWays) {
     EXPECT_EQ(wizard.edLanguagesToUse(), "English,German,\"Last One\"");
     desk.ui.Message(quit, ModalResult::Yes);
     EXPECT_TRUE(wizard.Close(desk.ui, ModalResult::Cancel));
-    EXPECT_TRUE(desk.ui.Transcript().starts_with("Warning: " + quit + " -> No\nWarning: " + create + " -> No\n"));
+    EXPECT_TRUE(
+        desk.ui.Transcript().starts_with("Warning: " + quit + " -> No\nWarning: " + create + " -> No\n"));
 }
 
 } // namespace

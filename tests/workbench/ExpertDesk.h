@@ -9,6 +9,7 @@
 #include "workbench/MenuAdapter.h"
 #include "workbench/QtUi.h"
 
+#include <QtCore/QDir>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
@@ -59,6 +60,15 @@ struct Hands {
         for (int i = 0; i < 5; ++i)
             QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    // With GLOTTA_PICTURES set to a folder, the window's picture is left there.
+    static void Picture(QWidget& window, const char* name) {
+        Idle();
+        const QString folder = qEnvironmentVariable("GLOTTA_PICTURES");
+        if (folder.isEmpty()) return;
+        QDir().mkpath(folder);
+        window.grab().save(folder + "/" + qEnvironmentVariable("GLOTTA_THEME", "Light").toLower() + "-" + name +
+                           ".png");
     }
     // The action with this caption, in menus at any depth.
     static QAction* Find(const QList<QAction*>& actions, const char* caption) {
