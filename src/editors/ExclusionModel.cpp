@@ -219,6 +219,7 @@ void ExclusionModel::DeleteSelected(ExclusionPage which) {
     if (which == ComponentsPage)
         for (const std::string& item : gone)
             if (const int node = tvComponents.Find(item); node != TTree::None) tvComponents.Mark(node, false);
+    RefillProperties(); // what is excluded no more is offered again
 }
 
 void ExclusionModel::ClearList(ExclusionPage which) {
