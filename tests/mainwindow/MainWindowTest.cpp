@@ -459,6 +459,31 @@ TEST(MainWindow, ADamagedFormKeepsItsRowAndSaysWhy) {
     EXPECT_EQ(desk.window->lvFormNames.Look(desk.RowOf("Data")), RowLook::Plain);
 }
 
+TEST(MainWindow, ChecksTheIdentifiersOfFormsAndUnits) {
+    Desk desk;
+    desk.Open();
+    desk.Select("MainForm");
+    desk.ui.Message("All IDs on form MainForm are used.\rAll internal and external IDs resolved.");
+    desk.window->Translation().InsertTGlotta(*desk.forms.FindExact("MainForm"));
+    desk.window->CheckEnableActions();
+    desk.Command("CheckunusedIDs1");
+
+    desk.ui.Modal<TfrmTranslUnits>([&](TfrmTranslUnits& dialog) {
+        EXPECT_EQ(dialog.caption + "|" + dialog.lblUnits(), "Check bad string IDs in unit(s)|&Select Unit(s):");
+        EXPECT_EQ(JoinLines(dialog.lbUnits.Items(), " "),
+                  "About CustomerEdit DataMod Main OrderDesk Receipt Totals Trace");
+        EXPECT_FALSE(dialog.cbFormNames.Visible());
+        dialog.lbUnits.Click(0);
+        dialog.lbUnits.Click(7, true);
+        EXPECT_TRUE(dialog.btOK.Enabled());
+        return ModalResult::OK;
+    });
+    desk.ui.Message("All external IDs in unit(s) resolved.");
+    desk.Command("CheckbadstringIDsinunit1");
+    desk.ui.Modal<TfrmTranslUnits>([](TfrmTranslUnits&) { return ModalResult::Cancel; });
+    desk.Command("CheckbadstringIDsinunit1");
+}
+
 TEST(CommandRunner, EndsInSilenceOrWithOneMessage) {
     ScriptedUi ui;
     ui.Message("disk full");

@@ -354,9 +354,11 @@ TEST(Views, IdentifiersAreCheckedAndRenamed) {
     const std::string unit = (desk.folder / "Main.pas").string();
     IdeServices& services = desk.expert->Services();
     const std::string source = services.GetUnitSource(unit);
-    const std::size_t call = source.find("GetText('IDS_3')");
-    ASSERT_NE(call, std::string::npos) << desk.messages << source;
-    WriteEdits(*services.GetSourceEditorFromFileName(unit), source, {{call + 9, call + 14, "MISSING"}});
+    const std::size_t call = source.find("('IDS_");
+    ASSERT_NE(call, std::string::npos);
+    const std::size_t begin = call + 2, end = source.find('\'', begin);
+    const std::string id = source.substr(begin, end - begin);
+    WriteEdits(*services.GetSourceEditorFromFileName(unit), source, {{begin, end, "MISSING"}});
     desk.messages.clear();
 
     desk.Trigger(menu, "&Check Bad String IDs");
@@ -369,10 +371,12 @@ TEST(Views, IdentifiersAreCheckedAndRenamed) {
     QTest::keyClick(&ids, Qt::Key_Return);
     const IOTAEditView& view = services.GetCurrentSourceEditor()->View();
     EXPECT_EQ(view.BlockAfter().column - view.BlockStart().column, 9); // with its quotes
-    desk.ClickCell(ids, desk.RowWith(ids, 0, "IDS_3"), 0);
+    bad->activateWindow();
+    desk.Idle();
+    desk.ClickCell(ids, desk.RowWith(ids, 0, id.c_str()), 0);
     QTest::keyClick(&ids, Qt::Key_Delete, Qt::ControlModifier);
     desk.Idle();
-    EXPECT_EQ(desk.messages, "This will delete IDS_3 from MainForm.Glotta1! Continue?\n");
+    EXPECT_EQ(desk.messages, "This will delete " + id + " from MainForm.Glotta1! Continue?\n");
     EXPECT_EQ(StatusOf(*bad), "Total:|1|");
     ids.setColumnWidth(0, 77);
     desk.Trigger(menu, "&Check Bad String IDs");
@@ -382,7 +386,9 @@ TEST(Views, IdentifiersAreCheckedAndRenamed) {
 
     desk.inputs = {"IDS_NEW"};
     desk.uses.push_back([&](TForm& form, QWidget& window) {
-        dynamic_cast<TfrmTransEditor&>(form).acRenameID.Execute();
+        auto& editor = dynamic_cast<TfrmTransEditor&>(form);
+        editor.ShowPlace({stStrings, 1});
+        editor.acRenameID.Execute();
         desk.Click(window, "btOK");
     });
     desk.uses.push_back([&](TForm&, QWidget& window) {
