@@ -150,9 +150,9 @@ struct State {
     std::uint32_t parameter = 0, pointers = 0; // the latter: a bit for each
 };
 
-class Walker {
+class Walker : private WalkOf<State, '"'> {
 public:
-    explicit Walker(std::string_view text) : text_(text) {}
+    explicit Walker(std::string_view text) : WalkOf(text) {}
 
     Walked Walk() {
         cpp::Lexer lexer(text_);
@@ -162,10 +162,6 @@ public:
     }
 
 private:
-    std::string_view TextOf(const Token& token) const {
-        return text_.substr(token.begin, token.end - token.begin);
-    }
-
     void Take(const Token& token) {
         switch (token.kind) {
         case TokenKind::Identifier: {
@@ -204,11 +200,6 @@ private:
             assignsToPointer_ = false;
             arguments_.TakeOther();
         }
-    }
-
-    void Cover(const Token& token, Reason reason) {
-        if (TextOf(token).find('"') != std::string_view::npos)
-            out_.places.push_back({token.begin, token.end, reason});
     }
 
     bool Has(unsigned flags) const { return s_.seen & flags; }
@@ -499,10 +490,6 @@ private:
         }
     }
 
-    std::string_view text_;
-    Walked out_;
-    State s_;
-    Nesting<State> nesting_;
     PCharNames pointers_;
     PCharArguments arguments_{true, pointers_};
     bool behindAngle_ = false; // the last literal

@@ -9,9 +9,9 @@ using namespace pascal_walk;
 
 namespace {
 
-class Walker {
+class Walker : private WalkOf<State, '\''> {
 public:
-    explicit Walker(std::string_view text) : text_(text) {}
+    explicit Walker(std::string_view text) : WalkOf(text) {}
 
     Walked Walk() {
         pascal::Lexer lexer(text_);
@@ -22,10 +22,6 @@ public:
     }
 
 private:
-    std::string_view TextOf(const Token& token) const {
-        return text_.substr(token.begin, token.end - token.begin);
-    }
-
     void Take(const Token& token) {
         switch (token.kind) {
         case TokenKind::Identifier: {
@@ -92,11 +88,6 @@ private:
         const char first = text_[token.begin];
         if (token.end - token.begin == 1) return first;
         return first == '.' ? DotDot : Assign;
-    }
-
-    void Cover(const Token& token, Reason reason) {
-        if (TextOf(token).find('\'') != std::string_view::npos)
-            out_.places.push_back({token.begin, token.end, reason});
     }
 
     void Push(Frame frame) {
@@ -509,10 +500,6 @@ private:
         s_.firstLabel = static_cast<std::uint32_t>(out_.places.size());
     }
 
-    std::string_view text_;
-    Walked out_;
-    State s_;
-    Nesting<State> nesting_;
     PCharDeclarations pointers_;
     PCharArguments arguments_{false, pointers_.Names()};
 };

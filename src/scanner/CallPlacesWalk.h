@@ -1,6 +1,7 @@
 // The walk over a unit that finds out for each literal whether a call could stand in its place.
 #pragma once
 #include "ide/ConditionalBranch.h"
+#include "ide/SourceTokens.h"
 #include "scanner/CallPlaces.h"
 
 namespace glotta::places {
@@ -96,6 +97,24 @@ private:
     static constexpr std::uint32_t deepest = 1000;
 
     std::vector<State> frames_, branches_;
+};
+
+// What a walk goes over and finds.
+template <class WalkState, char Quote> class WalkOf {
+protected:
+    explicit WalkOf(std::string_view text) : text_(text) {}
+
+    std::string_view TextOf(const Token& token) const { return text_.substr(token.begin, token.end - token.begin); }
+    // Text in which a quote opens no literal.
+    void Cover(const Token& token, Reason reason) {
+        if (TextOf(token).find(Quote) != std::string_view::npos)
+            out_.places.push_back({token.begin, token.end, reason});
+    }
+
+    std::string_view text_;
+    Walked out_;
+    WalkState s_;
+    Nesting<WalkState> nesting_;
 };
 
 } // namespace glotta::places

@@ -90,12 +90,7 @@ public:
 private:
     std::unique_ptr<FormNode> Node(int depth) {
         if (depth > MaxFormDepth) Fail("objects are nested too deeply");
-        auto node = std::make_unique<FormNode>();
-        FormHead head = Head();
-        node->kind = head.kind;
-        node->name = std::move(head.name);
-        node->className = std::move(head.className);
-        node->index = head.index;
+        std::unique_ptr<FormNode> node = NodeOf(Head());
         node->rawHead = Piece();
         while (Peek() != 0) {
             FormProperty& property = node->properties.emplace_back();

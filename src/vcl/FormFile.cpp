@@ -55,6 +55,15 @@ void FormNode::Rename(std::string newName) {
     rawHead.clear();
 }
 
+std::unique_ptr<FormNode> NodeOf(FormHead head) {
+    auto node = std::make_unique<FormNode>();
+    node->kind = head.kind;
+    node->name = std::move(head.name);
+    node->className = std::move(head.className);
+    node->index = head.index;
+    return node;
+}
+
 FormFile FormFile::Parse(std::string_view bytes, const std::string& fileName, unsigned codePage) {
     FormFile file;
     file.shape_.fileName = fileName;
