@@ -113,6 +113,7 @@ void TfrmGlotta::OpenAllForms() {
     Progress progress(UiPort(), "Opening forms...");
     IOTASourceEditor* const inFront = context_.ide.GetCurrentSourceEditor();
     for (FormsListItem& item : lvFormNames.List().items) {
+        if (progress.Cancelled()) break;
         if (!context_.ide.OpenFile(item.fileName, false)) continue;
         IOTAFormEditor* editor =
             IdeServices::GetFormEditorFromModule(context_.ide.Ide().modules.FindModule(item.fileName));

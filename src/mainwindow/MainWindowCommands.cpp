@@ -1,5 +1,7 @@
 // What the main window's commands do.
 #include "mainwindow/MainWindow.h"
+
+#include "editors/FormTakeBack.h"
 #include "platform/Error.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
@@ -68,8 +70,11 @@ void TfrmGlotta::ScanForms(const std::function<void(ScanCommands&, FormsListItem
         {context_.ide, context_.settings, context_.registry, context_.helper, context_.results},
         ScanReplace::Review::Dialog);
     ScanCommands commands{translation_, driver, context_.ide};
-    for (FormsListItem* item : context_.ide.Forms().Selected())
+    for (FormsListItem* item : context_.ide.Forms().Selected()) {
+        FormTakeBack before(context_.ide, *item);
         scan(commands, *item);
+        if (driver.Cancelled()) return before.TakeBack(); // the component that it inserted for the strings
+    }
 }
 
 void TfrmGlotta::Translatesource1Click() {

@@ -110,6 +110,7 @@ bool ScanReplace::DoScanReplace(const std::string& unitName, const std::string& 
 
     Ui& ui = context_.ide.GetUi();
     Progress progress(ui, "Scanning...");
+    if (StoppedIn(progress)) return false; // also what waits in the queue since a former unit
     Scan(job);
     if (constMode)
         NoteConstants(job, job.OwnForm() ? job.glotta->Owner()->ClassName() : std::string_view());
@@ -125,10 +126,12 @@ bool ScanReplace::DoScanReplace(const std::string& unitName, const std::string& 
     }
     found.Sort();
     const SettingsValues& settings = context_.settings.Values();
+    if (StoppedIn(progress)) return false;
     progress.Text("Verifying found strings...");
     VerifyFound(found, StringsOf(*job.glotta), job.Replacements(settings));
     progress.Text("Checking duplicates...");
     ShareDuplicates(found, job.Replacements(settings));
+    if (StoppedIn(progress)) return false;
     progress.Close();
     if (!ReviewRows(job)) return false;
 
@@ -145,6 +148,11 @@ bool ScanReplace::DoScanReplace(const std::string& unitName, const std::string& 
                 "option!";
     ui.MessageDlg(done, MsgType::Information);
     return true;
+}
+
+bool ScanReplace::StoppedIn(const Progress& progress) {
+    cancelled_ = progress.Cancelled();
+    return cancelled_;
 }
 
 void ScanReplace::LocateUnit(Job& job, const std::string& unitName) {

@@ -47,6 +47,8 @@ public:
     // changed. Without such a component: the message, then EGlottaSilent.
     bool DoScanReplace(const std::string& unitName, const std::string& stringsForm, bool constMode,
                        bool selectionOnly);
+    // Whether the person stopped the last run, before the review.
+    bool Cancelled() const { return cancelled_; }
 
     // Whether a CONST-section scan of the unit would find a constant that can be localized. Changes nothing.
     bool FindsConstants(const std::string& unitName);
@@ -54,6 +56,7 @@ public:
 private:
     struct Job; // one run
 
+    bool StoppedIn(const Progress& progress);
     void LocateUnit(Job& job, const std::string& unitName);
     void LocateComponent(Job& job, const std::string& stringsForm);
     void OpenUnit(Job& job);
@@ -72,6 +75,7 @@ private:
 
     ScanContext context_;
     Review review_;
+    bool cancelled_ = false;
     std::unique_ptr<ConstantContexts> project_; // of the units of the project at the first CONST-section scan
 };
 

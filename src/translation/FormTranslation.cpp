@@ -20,6 +20,18 @@ void ApplyLanguages(Component& component, int numLang, std::vector<std::string> 
         component.SetLanguage(has[std::size_t(active) - 1]);
 }
 
+// A run over the selected forms that can be stopped between two of them; over one form it is none.
+class ManyForms {
+public:
+    explicit ManyForms(IdeServices& ide) {
+        if (ide.Forms().Selected().size() > 1) progress_.emplace(ide.GetUi(), "Opening forms...");
+    }
+    bool Cancelled() const { return progress_ && progress_->Cancelled(); }
+
+private:
+    std::optional<Progress> progress_;
+};
+
 } // namespace
 
 void FormTranslation::Refresh() {
@@ -81,8 +93,10 @@ TComponent* FormTranslation::InsertComponentOnForm(const std::string& formName,
 void FormTranslation::SetUpLang(int numLang, FormsListItem& first, const std::vector<std::string>& langNames,
                                 std::string_view componentClass, bool insertIfNone) {
     auto& items = ide_.Forms().items;
+    ManyForms many(ide_);
     for (FormsListItem* item = &first; item != items.data() + items.size(); ++item) {
         if (item != &first && !item->selected) continue;
+        if (many.Cancelled()) return;
         ConfigureLangComponent(numLang, *item, langNames, {}, componentClass, insertIfNone);
         item->selected = item->focused = false;
     }
@@ -125,8 +139,11 @@ bool FormTranslation::ApplyToForm(int numLang, FormsListItem& item, const std::v
 
 void FormTranslation::sbCaptionsClick() {
     if (!TransEditorDlg) return;
-    for (FormsListItem* item : ide_.Forms().Selected())
+    ManyForms many(ide_);
+    for (FormsListItem* item : ide_.Forms().Selected()) {
+        if (many.Cancelled()) return;
         TranslateForm(*item);
+    }
 }
 
 void FormTranslation::TranslateForm(FormsListItem& item) {

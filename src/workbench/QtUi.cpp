@@ -11,6 +11,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QMessageBox>
@@ -68,8 +69,13 @@ QtUi::~QtUi() {
         delete view;
 }
 
+QWidget* QtUi::ActiveModal() const {
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal == progress_.get() ? nullptr : modal;
+}
+
 QWidget* QtUi::Parent() const {
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* modal = ActiveModal()) return modal;
     QWidget* active = QApplication::activeWindow();
     return active && active != progress_.get() ? active : mainWindow;
 }
@@ -140,7 +146,7 @@ bool QtUi::Execute(FileDialog& dialog) {
 
 View& QtUi::Open(TForm& form, bool modal) {
     // Over a modal window a window is its child, for all others wait until that is closed.
-    QWidget* const parent = modal || QApplication::activeModalWidget() ? Parent() : mainWindow;
+    QWidget* const parent = modal || ActiveModal() ? Parent() : mainWindow;
     const auto showHelp = [this, &form](std::string_view at) { ShowHelp(at, *WindowOf(form)); };
     const std::string_view help = OfferHelp(form, showHelp); // the view asks whether there is help
     View* const view = MakeView(form, *this, parent);
@@ -211,6 +217,10 @@ void QtUi::BringToFront(TForm& form) {
     QWidget* const window = WindowOf(form);
     if (!window) return Show(form);
     if (window->isMinimized()) window->showNormal();
+    if (auto* dock = qobject_cast<QDockWidget*>(window->parentWidget())) {
+        dock->show();
+        dock->raise();
+    }
     window->window()->raise();
     window->window()->activateWindow();
 }
@@ -223,6 +233,10 @@ QWidget* QtUi::WindowOf(const TForm& form) const {
 void QtUi::SetProgress(const std::string& text) {
     if (!progress_) progress_ = std::make_unique<ProgressWindow>();
     progress_->SetText(Q(text), Parent());
+}
+
+bool QtUi::Cancelled() {
+    return progress_ && progress_->Cancelled();
 }
 
 } // namespace glotta

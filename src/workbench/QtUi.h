@@ -31,6 +31,7 @@ public:
     void Show(TForm& form) override;
     void BringToFront(TForm& form) override;
     void SetProgress(const std::string& text) override;
+    bool Cancelled() override;
 
     // The window that shows the form, nil when none does.
     QWidget* WindowOf(const TForm& form) const;
@@ -51,6 +52,7 @@ private:
     View& Open(TForm& form, bool modal);
     void Closed(const TForm& form, bool formIsGone);
     QWidget* Parent() const;
+    QWidget* ActiveModal() const; // none but windows that wait for the person
     std::unordered_map<const TForm*, View*> views_;
     std::unique_ptr<ProgressWindow> progress_;
 };

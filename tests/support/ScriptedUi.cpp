@@ -64,6 +64,13 @@ ScriptedUi& ScriptedUi::File(std::string title, std::vector<std::string> files) 
     return *this;
 }
 
+ScriptedUi& ScriptedUi::Cancel(std::string progress) {
+    Step& step = steps_.emplace_back();
+    step.kind = "Cancel";
+    step.text = std::move(progress);
+    return *this;
+}
+
 ScriptedUi& ScriptedUi::AddForm(std::string kind, UseForm use) {
     Step& step = steps_.emplace_back();
     step.kind = std::move(kind);
@@ -145,7 +152,15 @@ void ScriptedUi::BringToFront(TForm& form) {
     Log("BringToFront " + form.caption);
 }
 void ScriptedUi::SetProgress(const std::string& text) {
+    progress_ = text;
     Log(text.empty() ? "Progress ends" : "Progress: " + text);
+}
+
+bool ScriptedUi::Cancelled() {
+    if (steps_.empty() || steps_.front().kind != "Cancel" || steps_.front().text != progress_) return false;
+    steps_.pop_front();
+    Log("Cancelled: " + progress_);
+    return true;
 }
 
 } // namespace glotta

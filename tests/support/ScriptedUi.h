@@ -24,6 +24,8 @@ public:
     ScriptedUi& Input(std::string prompt, std::optional<std::string> answer);
     // A file dialog with this title; no files cancel it.
     ScriptedUi& File(std::string title, std::vector<std::string> files);
+    // The run that shows this progress text is stopped when it asks.
+    ScriptedUi& Cancel(std::string progress);
     // A modal form of this class: `use` works with it and says how it is left. A form whose CloseQuery
     // refuses is shown to `use` of the next step, which has to be one for the same form.
     template <class Form> ScriptedUi& Modal(std::function<ModalResult(Form&)> use) {
@@ -54,6 +56,7 @@ public:
     void Show(TForm& form) override;
     void BringToFront(TForm& form) override;
     void SetProgress(const std::string& text) override;
+    bool Cancelled() override;
 
 private:
     using UseForm = std::function<std::optional<ModalResult>(TForm&)>;
@@ -71,7 +74,7 @@ private:
     void Log(const std::string& line) { transcript_ += line + "\n"; }
 
     std::deque<Step> steps_;
-    std::string transcript_;
+    std::string transcript_, progress_;
 };
 
 } // namespace glotta

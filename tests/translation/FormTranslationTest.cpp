@@ -155,9 +155,23 @@ TEST(FormTranslation, TranslateOpensTheEditorOnEachSelectedForm) {
     desk.ui.Message("Only one TgxCustomLang");
     desk.translation.sbCaptionsClick();
     EXPECT_EQ(edited, "Form1 Form3 ");
-    EXPECT_EQ(desk.ui.Transcript(), "Message: Only one TgxCustomLang -> OK\n");
+    EXPECT_EQ(desk.ui.Transcript(), "Progress: Opening forms...\nMessage: Only one TgxCustomLang -> OK\nProgress ends\n");
     EXPECT_FALSE(desk.services.GetModuleFromFileName(desk.Item(1).fileName)->Modified());
     EXPECT_TRUE(desk.services.GetModuleFromFileName(desk.Item(3).fileName)->Modified());
+}
+
+TEST(FormTranslation, RunsOverManyFormsStopBetweenTwo) {
+    Desk desk({OneGlotta, OneGlotta, OneGlotta}, "all");
+    int edited = 0;
+    desk.translation.TransEditorDlg = [&](TgxCustomLang&) {
+        if (++edited == 2) desk.ui.Cancel("Opening forms...");
+        return true;
+    };
+    desk.translation.sbCaptionsClick();
+    EXPECT_EQ(edited, 2);
+    desk.ui.Cancel("Opening forms...");
+    desk.translation.SetUpLang(5, desk.Item(1), {}, "TgxCustomLang", true);
+    EXPECT_EQ(desk.Item(1).languages + desk.Item(2).languages, "33") << "nothing at all";
 }
 
 TEST(FormTranslation, AFormWithoutDesignerCannotBeTranslated) {

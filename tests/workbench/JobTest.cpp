@@ -9,6 +9,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QContextMenuEvent>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
 #include <fstream>
 #include <iterator>
 
@@ -200,6 +201,27 @@ TEST(Job, CppBuilderForm) {
     job.Review();
     job.Trigger(job.Menu(), "&With form...");
     job.ExpectFiles("cbuilder/AlarmClock", "cbuilder");
+}
+
+// Of all forms the first one's scan is stopped: nothing of the run remains.
+TEST(Job, StoppedRunChangesNothing) {
+    Job job;
+    GridView& list = Job::Grid(job.OpenedMain(), "lvFormNames");
+    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
+    ASSERT_GT(list.Grid()->SelectedCount(), 2u);
+    QTimer stop;
+    QObject::connect(&stop, &QTimer::timeout, [] {
+        QWidget* progress = QApplication::activeModalWidget();
+        auto* cancel = progress && progress->objectName() == "progress" ? progress->findChild<QPushButton*>("cancel") : nullptr;
+        if (cancel && cancel->isVisible()) QTest::mouseClick(cancel, Qt::LeftButton);
+    });
+    stop.start(0);
+    job.Trigger(job.Menu(), "&With form...");
+    EXPECT_EQ(job.messages, "");
+    EXPECT_FALSE(job.host.CanSaveAll());
+    EXPECT_EQ(job.bench.Ide().ModuleCount(), 1) << "the project alone is open, as before";
+    for (const auto& [file, bytes] : FilesIn(PathFromText(GLOTTA_SOURCE_DIR) / "samples" / OrderDesk))
+        EXPECT_EQ(BytesOf(job.folder / file), bytes) << file;
 }
 
 // Opens, scans, cancels, rewrites, undoes, unloads and loads again: nothing changes on disk, nothing stays

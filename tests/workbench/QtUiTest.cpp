@@ -3,6 +3,7 @@
 #include "workbench/FileFilters.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -10,6 +11,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <gtest/gtest.h>
 
 namespace glotta {
@@ -75,7 +77,7 @@ TEST(QtUi, ProgressIsShownUntilItIsClosedAndMakesWayForQuestions) {
     QtUi ui;
     const auto visible = [] {
         for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->windowFlags().testFlag(Qt::SplashScreen) && window->isVisible())
+            if (window->objectName() == "progress" && window->isVisible())
                 return window->findChild<QLabel*>()->text().toStdString();
         return std::string();
     };
@@ -92,6 +94,38 @@ TEST(QtUi, ProgressIsShownUntilItIsClosedAndMakesWayForQuestions) {
         EXPECT_EQ(visible(), "Applying...");
     }
     EXPECT_EQ(visible(), "");
+}
+
+TEST(QtUi, ARunThatAsksCanBeStoppedAndNothingElseTakesInput) {
+    QtUi ui;
+    QPushButton other("Other");
+    other.show();
+    int pressed = 0;
+    QObject::connect(&other, &QPushButton::clicked, [&] { ++pressed; });
+    EXPECT_FALSE(ui.Cancelled()) << "no run at all";
+    for (const bool byKey : {true, false}) {
+        Progress progress(ui, "Scanning...");
+        QWidget* window = QApplication::activeModalWidget();
+        ASSERT_NE(window, nullptr);
+        auto* cancel = window->findChild<QPushButton*>("cancel");
+        EXPECT_FALSE(cancel->isVisible()) << "no dead control where nobody asks";
+        EXPECT_FALSE(progress.Cancelled());
+        EXPECT_TRUE(cancel->isVisible());
+        if (const QString folder = qEnvironmentVariable("GLOTTA_PICTURES"); byKey && !folder.isEmpty())
+            window->grab().save(folder + "/progress.png");
+        QCoreApplication::postEvent(other.windowHandle(), new QMouseEvent(QEvent::MouseButtonPress, {3, 3}, {3, 3}, {3, 3},
+                                                                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+        QTest::qSleep(50); // longer than it takes until events are looked at again
+        EXPECT_FALSE(progress.Cancelled());
+        if (byKey)
+            QTest::keyClick(window, Qt::Key_Escape);
+        else
+            QTest::mouseClick(cancel, Qt::LeftButton);
+        EXPECT_TRUE(progress.Cancelled());
+    }
+    EXPECT_EQ(pressed, 0);
+    Progress next(ui, "Scanning...");
+    EXPECT_FALSE(next.Cancelled());
 }
 
 } // namespace
