@@ -19,6 +19,20 @@ std::string BytesOnDisk(ModuleHost& host, const std::filesystem::path& file) {
 
 } // namespace
 
+KnownFiles ReadKnown(ModuleHost& host, const std::vector<std::filesystem::path>& files) {
+    KnownFiles known;
+    for (const auto& file : files)
+        known.emplace_back(file, BytesOnDisk(host, file));
+    return known;
+}
+
+std::vector<std::filesystem::path> ChangedFiles(ModuleHost& host, const KnownFiles& files) {
+    std::vector<std::filesystem::path> changed;
+    for (const auto& [file, bytes] : files)
+        if (BytesOnDisk(host, file) != bytes) changed.push_back(file);
+    return changed;
+}
+
 // --- one source file ---
 
 OpenSource::OpenSource(ModuleHost& host, IOTAModule& module, std::filesystem::path file,
@@ -138,14 +152,10 @@ std::vector<std::filesystem::path> PlainModule::Paths() const {
 }
 
 std::vector<std::filesystem::path> PlainModule::ChangedOnDisk() const {
-    std::vector<std::filesystem::path> changed;
-    const auto check = [&](const std::filesystem::path& file, const std::string& bytes) {
-        if (BytesOnDisk(host_, file) != bytes) changed.push_back(file);
-    };
-    check(source_.Path(), source_.Bytes());
-    if (header_) check(header_->Path(), header_->Bytes());
-    if (form_) check(files_.form, formBytes_);
-    return changed;
+    KnownFiles known{{source_.Path(), source_.Bytes()}};
+    if (header_) known.emplace_back(header_->Path(), header_->Bytes());
+    if (form_) known.emplace_back(files_.form, formBytes_);
+    return ChangedFiles(host_, known);
 }
 
 void PlainModule::KeepOverDisk() {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace glotta {
@@ -53,6 +54,12 @@ public:
     // What is open counts instead of what others wrote: saving replaces theirs.
     virtual void KeepOverDisk() {}
 };
+
+// Files and the bytes that they had when they were read; none when they are gone.
+using KnownFiles = std::vector<std::pair<std::filesystem::path, std::string>>;
+KnownFiles ReadKnown(ModuleHost& host, const std::vector<std::filesystem::path>& files);
+// Those that hold something else by now.
+std::vector<std::filesystem::path> ChangedFiles(ModuleHost& host, const KnownFiles& files);
 
 // A source file of a module, with the bytes that it was opened or saved with.
 class OpenSource {

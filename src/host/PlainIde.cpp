@@ -267,19 +267,38 @@ bool PlainIde::SaveFile(const std::string& fileName) {
 
 std::vector<IOTAModule*> PlainIde::ChangedOnDisk() const {
     std::vector<IOTAModule*> changed;
-    for (const Entry& entry : modules_)
-        if (!entry.files->ChangedOnDisk().empty()) changed.push_back(entry.module.get());
+    const auto check = [&](IOTAModule& module) {
+        if (!dynamic_cast<OpenFiles&>(module).ChangedOnDisk().empty()) changed.push_back(&module);
+    };
+    for (const Entry& entry : modules_) {
+        check(*entry.module);
+        if (auto* group = dynamic_cast<PlainProjectGroup*>(entry.module.get()))
+            for (PlainProject* project : group->LoadedProjects())
+                check(*project);
+    }
     return changed;
 }
 
 void PlainIde::KeepOverDisk(IOTAModule& module) {
-    for (const Entry& entry : modules_)
-        if (entry.module.get() == &module) entry.files->KeepOverDisk();
+    dynamic_cast<OpenFiles&>(module).KeepOverDisk();
+}
+
+void PlainIde::ReadProjectAgain(IOTAModule& module) {
+    if (auto* group = dynamic_cast<PlainProjectGroup*>(&module)) group->ReadAgain();
+    if (auto* project = dynamic_cast<PlainProject*>(&module)) project->ReadAgain();
+    for (const fs::path& path : dynamic_cast<OpenFiles&>(module).Paths())
+        byFile_.emplace(FileKey(path), &module);
+    if (onProjectChanged) onProjectChanged(module);
+    if (IOTAProject* active = Projects().empty() ? nullptr : Projects().front()) ActiveProjectChanged(active->FileName());
 }
 
 bool PlainIde::Reload(const std::string& fileName) {
     IOTAModule* const module = FindModule(fileName);
     if (!module || !files_.Exists(PathFromText(module->FileName()))) return false;
+    if (AsProject(module) || AsProjectGroup(module)) {
+        ReadProjectAgain(*module);
+        return true;
+    }
     const std::string name = module->FileName();
     return CloseModule(*module, true) && OpenFile(name);
 }

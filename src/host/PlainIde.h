@@ -72,14 +72,15 @@ public:
     // A module was brought to front; something was passed over. Both are a window's.
     std::function<void(IOTAModule&)> onShow;
     std::function<void(const std::string& problem)> onProblem;
-    std::function<void(IOTAProject&)> onProjectChanged; // it lists other units or forms than before
+    std::function<void(IOTAModule&)> onProjectChanged; // it lists other units, forms or projects than before
 
     // Open modules with files that others changed or deleted since they were read or saved.
     std::vector<IOTAModule*> ChangedOnDisk() const;
     // What is open counts instead of what lies on disk.
     void KeepOverDisk(IOTAModule& module);
     // Closes the file's module without saving and opens it as it is on disk. False, and nothing is closed, when it
-    // cannot be read or a notifier forbids it.
+    // cannot be read or a notifier forbids it. A project or group is read again in place: its units stay open. Throws
+    // Error when that fails.
     bool Reload(const std::string& fileName);
 
 private:
@@ -117,6 +118,7 @@ private:
     std::vector<std::string> DescendantFiles(const std::string& formClass);
     std::vector<std::string> NamesIn(const std::string& formFile);
     std::string TextOf(const std::filesystem::path& file, std::optional<Encoding> hint);
+    void ReadProjectAgain(IOTAModule& module);
     bool MayClose(const Entry& entry);
     void Forget(IOTAModule& module);
 

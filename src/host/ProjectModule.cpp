@@ -28,11 +28,34 @@ bool SaveFiles(ModuleHost& host, OpenFiles& files) {
 // --- project ---
 
 PlainProject::PlainProject(ModuleHost& host, ProjectDescription description)
-    : host_(host), description_(std::move(description)), modules_(ModuleInfos(description_)) {
+    : host_(host) {
+    Take(std::move(description));
+}
+
+void PlainProject::Take(ProjectDescription description) {
+    description_ = std::move(description);
+    known_ = ReadKnown(host_, Paths());
+    modules_ = ModuleInfos(description_);
+    byFile_.clear();
+    byFormClass_.clear();
+    descendants_.clear();
+    readHeads_ = false;
     for (const std::string& problem : description_.problems)
         host_.AddProblem(problem);
     for (const IOTAModuleInfo& info : modules_)
         byFile_.emplace(info.fileName, &info);
+}
+
+void PlainProject::ReadAgain() {
+    ProjectDescription description = ReadProject(description_.file);
+    source_.reset();
+    Take(std::move(description));
+}
+
+void PlainProject::KeepOverDisk() {
+    known_ = ReadKnown(host_, Paths());
+    for (const auto& [file, bytes] : known_)
+        if (source_ && file == source_->Path() && bytes != source_->Bytes()) source_->KeepOver(bytes);
 }
 
 std::string PlainProject::FileName() const {
@@ -114,6 +137,8 @@ std::vector<FileChange> PlainProject::Changes() {
 
 void PlainProject::MarkSaved(const std::vector<FileChange>& changes) {
     if (source_) source_->MarkSaved(changes);
+    for (auto& [file, bytes] : known_)
+        TakeSavedBytes(changes, file, bytes);
 }
 
 std::vector<std::filesystem::path> PlainProject::Paths() const {
@@ -126,7 +151,8 @@ std::vector<std::filesystem::path> PlainProject::Paths() const {
 // --- group ---
 
 PlainProjectGroup::PlainProjectGroup(ModuleHost& host, ProjectGroupDescription description)
-    : host_(host), description_(std::move(description)), slots_(description_.projects.size()) {
+    : host_(host), description_(std::move(description)), known_(ReadKnown(host_, {description_.file})),
+      slots_(description_.projects.size()) {
     for (const std::string& problem : description_.problems)
         host_.AddProblem(problem);
 }
@@ -157,6 +183,23 @@ void PlainProjectGroup::SetActiveProject(int index) {
     if (index < 0 || index >= ProjectCount() || index == description_.activeIndex) return;
     description_.activeIndex = index;
     if (IOTAProject* project = GetProject(index)) host_.ActiveProjectChanged(project->FileName());
+}
+
+void PlainProjectGroup::ReadAgain() {
+    ProjectGroupDescription description = ReadProjectGroup(description_.file);
+    std::vector<Slot> slots(description.projects.size());
+    const PlainProject* active = ActiveProject();
+    for (std::size_t i = 0; i < slots.size(); ++i)
+        for (Slot& old : slots_) {
+            if (!old.project || old.project->FileName() != PathText(description.projects[i].file)) continue;
+            if (old.project.get() == active) description.activeIndex = static_cast<int>(i);
+            slots[i] = std::move(old);
+        }
+    description_ = std::move(description);
+    slots_ = std::move(slots);
+    known_ = ReadKnown(host_, Paths());
+    for (const std::string& problem : description_.problems)
+        host_.AddProblem(problem);
 }
 
 std::vector<PlainProject*> PlainProjectGroup::LoadedProjects() const {

@@ -51,12 +51,19 @@ public:
     std::vector<FileChange> Changes() override;
     void MarkSaved(const std::vector<FileChange>& changes) override;
     std::vector<std::filesystem::path> Paths() const override;
+    std::vector<std::filesystem::path> ChangedOnDisk() const override { return ChangedFiles(host_, known_); }
+    void KeepOverDisk() override;
+    // Reads project file and source again; the units stay open. Throws Error, and stays as it was, when the file cannot
+    // be read.
+    void ReadAgain();
 
 private:
+    void Take(ProjectDescription description);
     void ReadHeads();
 
     ModuleHost& host_;
     ProjectDescription description_;
+    KnownFiles known_;
     std::vector<IOTAModuleInfo> modules_;
     std::unordered_map<std::string, const IOTAModuleInfo*> byFile_;
     std::unordered_map<std::string, const IOTAModuleInfo*, TextHash, TextEqual> byFormClass_;
@@ -93,6 +100,11 @@ public:
     std::vector<FileChange> Changes() override;
     void MarkSaved(const std::vector<FileChange>& changes) override;
     std::vector<std::filesystem::path> Paths() const override { return {description_.file}; }
+    std::vector<std::filesystem::path> ChangedOnDisk() const override { return ChangedFiles(host_, known_); }
+    void KeepOverDisk() override { known_ = ReadKnown(host_, Paths()); }
+    // Reads the group file again; projects that it still lists stay as they are. Throws Error, and stays as it was, when
+    // it cannot be read.
+    void ReadAgain();
 
 private:
     struct Slot {
@@ -101,6 +113,7 @@ private:
     };
     ModuleHost& host_;
     ProjectGroupDescription description_;
+    KnownFiles known_;
     std::vector<Slot> slots_;
 };
 

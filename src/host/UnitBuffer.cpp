@@ -2,6 +2,8 @@
 
 #include "platform/Text.h"
 
+#include <atomic>
+
 namespace glotta {
 namespace {
 
@@ -15,6 +17,12 @@ std::size_t MovedBy(const UnitEdits& edits, std::size_t byte) {
         added += edit.text.size();
     }
     return byte - removed + added;
+}
+
+// No two steps are alike, of whatever buffer: a file may be opened anew.
+std::size_t NextStep() {
+    static std::atomic<std::size_t> newest = 0;
+    return ++newest;
 }
 
 } // namespace
@@ -33,7 +41,8 @@ bool UnitBuffer::Apply(std::vector<TextEdits> groups) {
     if (inverse.empty()) return false;
     if (savedStep_ != std::string::npos && savedStep_ > undo_.size()) savedStep_ = std::string::npos;
     redo_.clear();
-    undo_.push_back({++version_, std::move(inverse)});
+    ++version_;
+    undo_.push_back({NextStep(), std::move(inverse)});
     return true;
 }
 

@@ -33,7 +33,10 @@ public:
     void FileNotification(TOTAFileNotification code, const std::string& fileName, bool&) override {
         if (code == ofnFileOpened) window_.FileOpened(fileName);
         if (code == ofnFileClosing) window_.FileClosing(fileName);
-        if (code == ofnActiveProjectChanged) window_.Tree().ShowActive();
+        if (code == ofnActiveProjectChanged) {
+            window_.Tree().ShowActive();
+            window_.WatchProject();
+        }
     }
 
 private:
@@ -49,7 +52,18 @@ HostWindow::HostWindow(Workbench& workbench)
     notifierIndex_ = ide_.Services().services->AddNotifier(notifier_);
     ide_.onShow = [this](IOTAModule& module) { ShowSoon(module); };
     ide_.onProblem = [this](const std::string& problem) { AddMessage(problem); };
+    ide_.onProjectChanged = [this](IOTAModule& project) {
+        if (&project == project_)
+            tree_->ShowProject(project_);
+        else if (AsProject(&project))
+            tree_->ShowAgain(*AsProject(&project));
+        WatchProject();
+    };
     ide_.askClose = [this](IOTAModule& module) { return AskClose(module); };
+    ide_.Design().OnView = [this] {
+        for (const auto& [module, page] : pages_)
+            page->DesignChanged();
+    };
     workbench_.UiPort().mainWindow = this;
     workbench_.DockWindow = [this](bool docked) { DockExpert(docked); };
     RestoreState();
@@ -60,11 +74,9 @@ HostWindow::~HostWindow() {
     ide_.Services().services->RemoveNotifier(notifierIndex_);
     ide_.onShow = nullptr;
     ide_.onProblem = nullptr;
-    ide_.Design().OnView = [this] {
-        for (const auto& [module, page] : pages_)
-            page->DesignChanged();
-    };
+    ide_.onProjectChanged = nullptr;
     ide_.askClose = nullptr;
+    ide_.Design().OnView = nullptr;
     workbench_.UiPort().mainWindow = nullptr;
     workbench_.DockWindow = nullptr;
     DockExpert(false);
@@ -76,7 +88,6 @@ HostWindow::~HostWindow() {
 }
 
 // --- what it is made of ---
-    ide_.Design().OnView = nullptr;
 
 void HostWindow::BuildWidgets() {
     setObjectName("AppBuilder");
@@ -248,10 +259,32 @@ void HostWindow::FileClosing(const std::string& fileName) {
     if (!module) return;
     RemovePage(*module);
     if (module != project_) return;
+    watch_.Forget(std::exchange(watchedProject_, {}));
     project_ = nullptr;
     tree_->ShowProject(nullptr);
-    while (!pages_.empty()) // sources of projects go with their group
-        RemovePage(*const_cast<IOTAModule*>(pages_.begin()->first));
+    RemoveProjectPages();
+}
+
+void HostWindow::RemoveProjectPages() {
+    std::vector<IOTAModule*> projects;
+    for (const auto& [each, page] : pages_)
+        if (AsProject(const_cast<IOTAModule*>(each))) projects.push_back(const_cast<IOTAModule*>(each));
+    for (IOTAModule* project : projects)
+        RemovePage(*project);
+}
+
+// The project or group with those of its projects that were read.
+void HostWindow::WatchProject() {
+    watch_.Forget(std::exchange(watchedProject_, {}));
+    const auto add = [&](OpenFiles& files) {
+        for (auto& file : files.Paths())
+            watchedProject_.push_back(std::move(file));
+    };
+    if (auto* files = dynamic_cast<OpenFiles*>(project_)) add(*files);
+    if (auto* group = dynamic_cast<PlainProjectGroup*>(project_))
+        for (PlainProject* project : group->LoadedProjects())
+            add(*project);
+    watch_.Watch(watchedProject_);
 }
 
 // Commands may bring many modules to front; only the last one is looked at.

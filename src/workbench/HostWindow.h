@@ -16,6 +16,7 @@ class QTabWidget;
 namespace glotta {
 
 class CodeEditor;
+class ExpertDock;
 class FindBar;
 class HostNotifier;
 class MenuAdapter;
@@ -79,6 +80,8 @@ public:
     bool HasCode() const { return Page() != nullptr; }
     bool HasForm() const;
     bool HasRecent() const { return hasRecent_; }
+    bool CanUndo() const;
+    bool CanRedo() const;
     bool CanSave() const;
     bool CanSaveAll() const;
     bool CanLoadExpert() const { return !workbench_.Expert(); }
@@ -99,6 +102,8 @@ private:
     void FileClosing(const std::string& fileName);
     UnitPage& MakePage(IOTAModule& module);
     void RemovePage(IOTAModule& module);
+    void RemoveProjectPages();
+    void WatchProject();
     void ShowSoon(IOTAModule& module);
     void ShowPending();
     void PageChanged();
@@ -128,10 +133,11 @@ private:
     FindBar* find_;
     ProjectTree* tree_;
     QDockWidget *treeDock_, *messagesDock_;
-    QDockWidget* expertDock_ = nullptr;
+    ExpertDock* expertDock_ = nullptr;
     QListWidget* messages_;
     QLabel *position_, *state_;
     std::unique_ptr<MenuAdapter> menu_;
+    std::vector<std::filesystem::path> watchedProject_;
     DiskWatch watch_;
 };
 

@@ -2,9 +2,11 @@
 #include "workbench/HostWindow.h"
 
 #include "expert/Glottaexp.h"
+#include "host/FormEditor.h"
 #include "platform/Error.h"
 #include "platform/Files.h"
 #include "workbench/CodeEditor.h"
+#include "workbench/ExpertDock.h"
 #include "workbench/FindBar.h"
 #include "workbench/FormPage.h"
 #include "workbench/HelpWindow.h"
@@ -47,6 +49,7 @@ bool HostWindow::OpenProject(const std::string& fileName) {
     IOTAModule& opened = ide_.OpenProject(file);
     project_ = &opened;
     tree_->ShowProject(&opened);
+    WatchProject();
     AddRecent(file);
     Changed();
     return true;
@@ -178,10 +181,12 @@ void HostWindow::CheckDisk() {
 
 void HostWindow::AskReload(IOTAModule& module) {
     const std::string file = module.FileName(), name = ShortName(module);
+    const bool isProject = AsProject(&module) || AsProjectGroup(&module);
     std::error_code ignored;
     if (!std::filesystem::exists(PathFromText(file), ignored)) {
-        workbench_.UiPort().MessageDlg(name + " was deleted by another program. It stays open; saving writes it again.",
-                                       MsgType::Warning, {ModalResult::OK}, {});
+        const char* rest = isProject ? " was deleted or renamed by another program. The project stays open as it was read."
+                                     : " was deleted by another program. It stays open; saving writes it again.";
+        workbench_.UiPort().MessageDlg(name + rest, MsgType::Warning, {ModalResult::OK}, {});
         return ide_.KeepOverDisk(module);
     }
     const std::string question =
@@ -192,7 +197,9 @@ void HostWindow::AskReload(IOTAModule& module) {
         ModalResult::Yes)
         return ide_.KeepOverDisk(module);
     const int index = tabs_->indexOf(PageOf(module));
+    if (isProject) RemoveProjectPages(); // their sources may be others
     if (!ide_.Reload(file)) throw Error(name + " cannot be loaded again");
+    if (isProject && index >= 0) ide_.BringToFront(module), ShowPending();
     if (IOTAModule* again = ide_.FindModule(file))
         if (UnitPage* page = PageOf(*again)) tabs_->tabBar()->moveTab(tabs_->indexOf(page), std::max(index, 0));
 }
@@ -203,13 +210,25 @@ void HostWindow::ToFocus(const char* slot) {
     if (QWidget* focus = QApplication::focusWidget()) QMetaObject::invokeMethod(focus, slot);
 }
 
+bool HostWindow::CanUndo() const {
+    PlainFormEditor* form = HasPage() ? Page()->ShownForm() : nullptr;
+    return form ? form->CanUndo() : HasCode();
+}
+
+bool HostWindow::CanRedo() const {
+    PlainFormEditor* form = HasPage() ? Page()->ShownForm() : nullptr;
+    return form ? form->CanRedo() : HasCode();
+}
+
 void HostWindow::UndoClick() {
     if (auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget())) return edit->undo();
+    if (PlainFormEditor* form = Page()->ShownForm()) return form->Undo();
     if (CodeEditor* code = Code()) code->UndoStep();
 }
 
 void HostWindow::RedoClick() {
     if (auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget())) return edit->redo();
+    if (PlainFormEditor* form = Page()->ShownForm()) return form->Redo();
     if (CodeEditor* code = Code()) code->RedoStep();
 }
 
@@ -290,23 +309,16 @@ void HostWindow::DockExpert(bool docked) {
     QWidget* window = workbench_.UiPort().WindowOf(*expert->MainWindow());
     if (!window) return;
     if (docked && !expertDock_) {
-        expertDock_ = new QDockWidget(window->windowTitle(), this);
-        expertDock_->setObjectName("TGlottaExpertIDEDockableForm");
-        addDockWidget(Qt::RightDockWidgetArea, expertDock_);
-        window->setWindowFlags(Qt::Widget);
-        expertDock_->setWidget(window);
-        expertDock_->show();
-        window->show();
+        expertDock_ = new ExpertDock(*this, *window);
         connect(window, &QObject::destroyed, this, [this] { RemoveExpertDock(); });
     } else if (!docked && expertDock_) {
-        window->setParent(this, Qt::Window);
-        window->show();
+        expertDock_->Release();
         RemoveExpertDock();
     }
 }
 
 void HostWindow::RemoveExpertDock() {
-    if (expertDock_) std::exchange(expertDock_, nullptr)->deleteLater();
+    if (expertDock_) std::exchange(expertDock_, nullptr)->Leave();
 }
 
 } // namespace glotta

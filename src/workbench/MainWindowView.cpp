@@ -42,7 +42,7 @@ public:
         c.lvFormNames->setFocus();
     }
     void Moved() override {
-        if (!window()->parent() || isWindow()) form.Placement.Enter(PlacementOf(*this));
+        if (isWindow()) form.Placement.Enter(PlacementOf(*this));
     }
 
 private:

@@ -125,6 +125,15 @@ void ProjectTree::Load(QTreeWidgetItem& item) {
     item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
 }
 
+void ProjectTree::ShowAgain(IOTAProject& project) {
+    for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
+        if ((*item)->data(0, FileRole).toString() != Q(project.FileName())) continue;
+        qDeleteAll((*item)->takeChildren());
+        AddUnits(**item, project);
+        return Filter(filter_->text());
+    }
+}
+
 void ProjectTree::ShowActive() {
     auto* group = AsProjectGroup(shown_);
     if (!group || tree_->topLevelItemCount() == 0) return;

@@ -16,6 +16,7 @@ public:
 
     void ShowProject(IOTAModule* project); // a project or a group; nil empties the tree
     void ShowActive();                     // another project of the group became the active one
+    void ShowAgain(IOTAProject& project);  // it lists other units or forms
     QTreeWidget& Tree() { return *tree_; }
 
     std::function<void(const std::string& fileName, bool form)> OnOpen;

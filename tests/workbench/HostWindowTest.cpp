@@ -229,6 +229,41 @@ TEST(HostWindow, InspectorRenamesComponentAndField) {
     EXPECT_NE(desk.OnDisk("CustomerEdit.pas").find("procedure TCustomerForm.TitleClick(Sender: TObject);"), std::string::npos);
 }
 
+TEST(HostWindow, WhatTheInspectorDidIsUndone) {
+    Desk desk;
+    FormPage& form = *desk.Open("CustomerEdit.pas", true).Form();
+    QTableWidget& properties = form.Inspector().Properties();
+    const auto type = [&](int row, const char* text) {
+        desk.window.activateWindow();
+        properties.setFocus();
+        properties.setCurrentCell(row, 1);
+        QTest::keyClick(&properties, Qt::Key_F2);
+        auto* edit = properties.findChild<QLineEdit*>();
+        ASSERT_NE(edit, nullptr);
+        edit->setText(text);
+        QTest::keyClick(edit, Qt::Key_Return);
+        desk.Idle();
+    };
+    EXPECT_FALSE(desk.Item("EditUndoItem").Enabled());
+    type(0, "Buyer");
+    type(properties.findItems("Tag", Qt::MatchExactly).front()->row(), "7");
+    EXPECT_EQ(S(desk.window.Page()->Title()), "CustomerEdit.pas *");
+    EXPECT_TRUE(desk.bench.Ide().FindModule(PathText(desk.folder / "OrderDesk.dpr"))->Modified());
+    EXPECT_NE(Shown(desk).find("CustomerEdit.pas\n  Buyer\n"), std::string::npos) << Shown(desk);
+    QTest::keyClick(&properties, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&properties, Qt::Key_Z, Qt::ControlModifier);
+    desk.Idle();
+    EXPECT_EQ(S(properties.item(0, 1)->text()), "CustomerForm");
+    EXPECT_FALSE(desk.Item("EditUndoItem").Enabled());
+    EXPECT_FALSE(desk.Item("FileSaveAllItem").Enabled());
+    QTest::keyClick(&properties, Qt::Key_Y, Qt::ControlModifier);
+    desk.Idle();
+    EXPECT_EQ(S(properties.item(0, 1)->text()), "Buyer");
+    desk.Click("FileSaveAllItem");
+    EXPECT_NE(desk.OnDisk("OrderDesk.dpr").find("CreateForm(TBuyer, Buyer)"), std::string::npos) << desk.OnDisk("OrderDesk.dpr");
+    EXPECT_EQ(desk.asked, "");
+}
+
 TEST(HostWindow, InspectorRenamesTheMemberOfAHeader) {
     Desk desk("cbuilder/AlarmClock", "AlarmClock.bpr");
     FormPage& form = *desk.Open("ClockMain.cpp", true).Form();
@@ -272,6 +307,65 @@ TEST(HostWindow, FilesChangedByOthersLoseNoEdit) {
     EXPECT_EQ(desk.OnDisk("Main.pas"), "{mine}unit Main;\r\nend.\r\n");
 }
 
+TEST(HostWindow, ProjectFilesChangedByOthers) {
+    Desk desk;
+    const std::string before = desk.OnDisk("OrderDesk.dpr");
+    std::string more = before;
+    more.insert(more.find("  About in"), "  Extra in 'Extra.pas',\r\n  Lost in 'Lost.pas',\r\n");
+    desk.folder.Put("Extra.pas", "unit Extra;\r\ninterface\r\nimplementation\r\nend.\r\n");
+    QTest::keyClicks(&desk.Code("Main.pas"), "{mine}");
+    const auto change = [&](const std::string& bytes, ModalResult answer) {
+        WriteFileAtomically(desk.folder / "OrderDesk.dpr", bytes);
+        desk.answers = {answer};
+        desk.window.CheckDisk();
+        desk.window.CheckDisk(); // asks once
+        desk.Idle();
+    };
+    change(more, ModalResult::Yes);
+    EXPECT_NE(Shown(desk).find(" Extra.pas\n Lost.pas\n About.pas"), std::string::npos) << Shown(desk);
+    EXPECT_EQ(Start(desk.Code("Main.pas"), 6), "{mine}") << "open units stay";
+    EXPECT_EQ(desk.bench.Ide().Problems().size(), 1u) << "the missing one";
+    EXPECT_TRUE(desk.window.OpenUnit(PathText(desk.folder / "Extra.pas")));
+
+    QTest::keyClicks(&desk.Code("OrderDesk.dpr"), "{own}");
+    change(before, ModalResult::No);
+    EXPECT_EQ(Start(desk.Code("OrderDesk.dpr"), 5), "{own}");
+    desk.Click("FileSaveItem");
+    EXPECT_EQ(desk.OnDisk("OrderDesk.dpr"), "{own}" + more);
+    change(before, ModalResult::Yes);
+    EXPECT_EQ(Text(desk.Code("OrderDesk.dpr")), before);
+    std::filesystem::remove(desk.folder / "OrderDesk.dpr");
+    desk.window.CheckDisk();
+    EXPECT_EQ(desk.asked,
+              "OrderDesk.dpr was changed by another program. Load it again?\n"
+              "OrderDesk.dpr was changed by another program, and it has changes here that are not saved.\r\n"
+              "Load it again and lose the changes made here?\n"
+              "OrderDesk.dpr was changed by another program. Load it again?\n"
+              "OrderDesk.dpr was deleted or renamed by another program. The project stays open as it was read.\n");
+}
+
+TEST(HostWindow, GroupFilesChangedByOthers) {
+    Desk desk("delphi/OrderDesk", nullptr);
+    const auto group = [](const char* more) {
+        return std::string("<Project><ItemGroup><Projects Include=\"OrderDesk.dpr\"/>") + more + "</ItemGroup></Project>";
+    };
+    desk.folder.Put("Two.dpr", "program Two;\r\nbegin\r\nend.\r\n");
+    desk.folder.Put("All.groupproj", group(""));
+    desk.window.OpenProject(PathText(desk.folder / "All.groupproj"));
+    QTest::keyClicks(&desk.Code("OrderDesk.dpr"), "{own}");
+    desk.folder.Put("All.groupproj", group("<Projects Include=\"Two.dpr\"/>"));
+    desk.answers = {ModalResult::Yes};
+    desk.window.CheckDisk();
+    EXPECT_NE(Shown(desk).find(" Two.dpr\n"), std::string::npos) << Shown(desk);
+    EXPECT_EQ(Start(desk.Code("OrderDesk.dpr"), 5), "{own}") << "a project that is still listed";
+    desk.folder.Put("All.groupproj", "<Project>");
+    desk.answers = {ModalResult::Yes};
+    desk.asked.clear();
+    desk.window.CheckDisk();
+    EXPECT_NE(desk.asked.find("All.groupproj: line 1: not well-formed XML"), std::string::npos) << desk.asked;
+    EXPECT_NE(Shown(desk).find(" Two.dpr\n"), std::string::npos) << "stays as it was";
+}
+
 std::string MenuText(HostWindow& window, const HostMenus& menus) {
     window.Menu().Refresh();
     std::string text;
@@ -311,6 +405,60 @@ TEST(HostWindow, ExpertComesAndGoesLeavingNothing) {
         desk.Idle();
         EXPECT_EQ(MenuText(desk.window, menus), without);
     }
+}
+
+TEST(HostWindow, TheExpertDocksWhereItDidLast) {
+    Desk desk;
+    desk.window.setGeometry(40, 40, 1280, 720);
+    desk.Click("ComponentLoadItem");
+    desk.Click("GlottaExpertMenuItem");
+    const auto form = [&] { return desk.bench.Expert()->MainWindow(); };
+    const auto window = [&] { return desk.bench.UiPort().WindowOf(*form()); };
+    const auto dock = [&] { return desk.window.findChild<QDockWidget*>("TGlottaExpertIDEDockableForm"); };
+    const auto turn = [&] {
+        form()->Dockable1Click();
+        desk.Idle();
+    };
+    window()->setGeometry(100, 90, 620, 410);
+    desk.Idle();
+    turn();
+    ASSERT_NE(dock(), nullptr);
+    EXPECT_EQ(desk.window.dockWidgetArea(dock()), Qt::RightDockWidgetArea);
+    EXPECT_TRUE(window()->isVisible() && !window()->isWindow());
+    EXPECT_EQ(dock()->windowTitle(), Q(form()->caption));
+    if (const QString folder = qEnvironmentVariable("GLOTTA_PICTURES"); !folder.isEmpty())
+        desk.window.grab().save(folder + "/" + qEnvironmentVariable("GLOTTA_THEME", "Light").toLower() + "-host-docked.png");
+    desk.window.addDockWidget(Qt::BottomDockWidgetArea, dock());
+    turn(); // stands by itself again
+    EXPECT_EQ(dock(), nullptr);
+    EXPECT_TRUE(window()->isWindow() && window()->isVisible());
+    EXPECT_EQ(window()->geometry(), QRect(100, 90, 620, 410));
+    turn();
+    ASSERT_NE(dock(), nullptr);
+    EXPECT_EQ(desk.window.dockWidgetArea(dock()), Qt::BottomDockWidgetArea);
+
+    dock()->close(); // closes the expert's window, which comes back docked
+    desk.Idle();
+    EXPECT_FALSE(form() && form()->Visible());
+    EXPECT_EQ(dock(), nullptr);
+    desk.Click("GlottaExpertMenuItem");
+    ASSERT_NE(dock(), nullptr);
+    EXPECT_EQ(desk.window.dockWidgetArea(dock()), Qt::BottomDockWidgetArea);
+    desk.Click("ComponentUnloadItem");
+    EXPECT_EQ(Docks(desk.window), 2);
+
+    desk.window.close();
+    HostWindow next(desk.bench);
+    next.show();
+    next.OpenProject(PathText(desk.folder / "OrderDesk.dpr"));
+    desk.bench.LoadExpert();
+    desk.Click("GlottaExpertMenuItem");
+    auto* again = next.findChild<QDockWidget*>("TGlottaExpertIDEDockableForm");
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(next.dockWidgetArea(again), Qt::BottomDockWidgetArea);
+    next.CloseProject();
+    desk.bench.UnloadExpert();
+    desk.Idle();
 }
 
 void OpenEveryForm(Desk& desk) {
