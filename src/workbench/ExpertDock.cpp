@@ -2,16 +2,20 @@
 
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QStatusBar>
 
 namespace glotta {
 
 ExpertDock::ExpertDock(QMainWindow& host, QWidget& window)
     : QDockWidget(window.windowTitle(), &host), host_(host), before_(window.geometry()) {
     setObjectName("TGlottaExpertIDEDockableForm");
-    if (!host_.restoreDockWidget(this)) host_.addDockWidget(Qt::RightDockWidgetArea, this);
+    const bool hadPlace = host_.restoreDockWidget(this);
+    if (!hadPlace) host_.addDockWidget(Qt::RightDockWidgetArea, this);
     window.setWindowFlags(Qt::Widget);
     setWidget(&window);
     connect(&window, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
+    if (!hadPlace) host_.resizeDocks({this}, {host_.width() / 2}, Qt::Horizontal);
+    if (auto* bar = window.findChild<QStatusBar*>()) bar->setSizeGripEnabled(false); // the host has one
     show();
     window.show();
 }
@@ -19,6 +23,7 @@ ExpertDock::ExpertDock(QMainWindow& host, QWidget& window)
 void ExpertDock::Release() {
     QWidget* const window = widget();
     window->setParent(&host_, Qt::Window);
+    if (auto* bar = window->findChild<QStatusBar*>()) bar->setSizeGripEnabled(true);
     window->setGeometry(before_);
     window->show();
 }
