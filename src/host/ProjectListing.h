@@ -45,9 +45,9 @@ GroupListing ListMakefileGroup(std::string_view text);
 // .bdsgroup, .groupproj. Throws Error "file: line N: reason".
 GroupListing ListXmlGroup(std::string_view text, const std::string& fileName);
 
-// Adds to `edits` the form's name where a project source lists the unit, unless it is among them.
+// Adds to `edits` the form's name where a project source lists the unit with it, unless it is among them.
 void AddListedRename(TextEdits& edits, std::string_view text, bool isCpp, std::string_view unit,
-                     const std::string& newName);
+                     const std::string& name, const std::string& newName);
 
 // "CodePage=1251" on a line of its own, as .dof, .bpr and .bpk files have it.
 std::optional<unsigned> FindCodePageLine(std::string_view text);

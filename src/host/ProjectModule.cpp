@@ -120,11 +120,12 @@ void PlainProject::RenameForm(const std::filesystem::path& unit, const FormNames
     if (GetModuleFileEditor(0)) {
         const std::string& text = source_->Editor().Buffer().Text();
         TextEdits edits = glotta::RenameForm(text, IsCpp(), from, to);
-        AddListedRename(edits, text, IsCpp(), PathText(unit.stem()), to.name);
+        AddListedRename(edits, text, IsCpp(), PathText(unit.stem()), from.name, to.name);
         source_->Editor().Apply({std::move(edits)});
     }
     IOTAModuleInfo& info = modules_[static_cast<std::size_t>(entry->second - modules_.data())];
-    info.formName = info.annotatedFormName = to.name;
+    info.formName = to.name;
+    if (SameText(info.annotatedFormName, from.name)) info.annotatedFormName = to.name;
     byFormClass_.erase(from.className);
     byFormClass_.emplace(to.className, &info);
 }

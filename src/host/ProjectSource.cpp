@@ -167,9 +167,9 @@ ProjectListing ListUseMacros(std::string_view text) {
 }
 
 void AddListedRename(TextEdits& edits, std::string_view text, bool isCpp, std::string_view unit,
-                     const std::string& newName) {
+                     const std::string& name, const std::string& newName) {
     for (const ListedUnit& listed : (isCpp ? ListUseMacros(text) : ListDelphiSource(text)).units) {
-        if (listed.formEnd == 0 || listed.formName == newName || !SameText(WrittenStem(listed.path), unit)) continue;
+        if (listed.formEnd == 0 || !SameText(listed.formName, name) || !SameText(WrittenStem(listed.path), unit)) continue;
         const bool known = std::any_of(edits.begin(), edits.end(),
                                        [&](const TextEdit& edit) { return edit.begin == listed.formBegin; });
         if (!known) edits.push_back({listed.formBegin, listed.formEnd, newName});

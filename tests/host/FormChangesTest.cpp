@@ -180,6 +180,16 @@ TEST_F(FormChanges, AFormIsRenamedInUnitFormAndProject) {
     EXPECT_EQ(form.Designer().CreateMethod("FormCreate", {}), "FormCreate") << "the unit knows the class";
 }
 
+TEST_F(FormChanges, WhatAProjectSourceSaysOfAnotherNameStays) {
+    Put("Shop.dpr", " program Shop;\n uses Main in 'Main.pas' {Wrong};\n begin\n end.\n");
+    Put("Main.pas", "-unit Main; interface type TForm1 = class(TForm) end; implementation end.\n"
+                    "+unit Main; interface type TDesk = class(TForm) end; implementation end.\n");
+    Put("Main.dfm", "-object Form1: TForm1\n+object Desk: TDesk\n end\n");
+    PlainFormEditor& form = Open("Shop.dpr", "Main.pas");
+    Rename(form, "", "Desk");
+    ExpectStep(form);
+}
+
 TEST_F(FormChanges, AFormOfCppIsRenamedInHeaderSourceAndProject) {
     Put("Clock.cpp", R"(
  #include <vcl.h>
