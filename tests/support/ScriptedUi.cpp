@@ -1,5 +1,7 @@
 #include "support/ScriptedUi.h"
 
+#include "support/Messages.h"
+
 #include <gtest/gtest.h>
 
 namespace glotta {
@@ -93,6 +95,8 @@ std::optional<ScriptedUi::Step> ScriptedUi::Next(const std::string& kind, const 
 ModalResult ScriptedUi::MessageDlg(const std::string& text, MsgType type, const MsgButtons& buttons,
                                    const std::string& caption) {
     const std::optional<Step> step = Next("Message", text);
+    const std::string fault = FaultOfMessage(text, type, buttons);
+    EXPECT_EQ(fault, "") << text;
     const ModalResult answer = step ? step->result : ModalResult::Cancel;
     Log(std::string(NameOf(type)) + (caption.empty() ? "" : " [" + caption + "]") + ": " + text + " -> " +
         std::string(NameOf(answer)));
