@@ -64,8 +64,10 @@ void Change(ExclusionModel& model, const ExcludeOptions& options) {
         CheckComponent(model, "--add-component", item);
         Add(model, ComponentsPage, item);
     }
-    for (const std::string& item : options.properties)
+    for (const std::string& item : options.properties) {
+        if (Trim(item).empty()) throw Error("--add-property: the name of a property is wanted");
         Add(model, PropertiesPage, item);
+    }
     for (const std::string& item : options.componentProperties) {
         const std::size_t dot = item.find('.');
         if (dot == std::string::npos || dot + 1 == item.size())

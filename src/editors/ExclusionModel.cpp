@@ -1,6 +1,5 @@
 #include "editors/ExclusionModel.h"
 
-#include <chrono>
 #include <optional>
 
 namespace glotta {
@@ -10,7 +9,8 @@ namespace {
 // Tells how far a long run is, once it has taken a while.
 class LateProgress {
 public:
-    LateProgress(Ui& ui, std::size_t count) : ui_(ui), count_(count) {}
+    LateProgress(Ui& ui, std::size_t count, std::chrono::milliseconds after)
+        : ui_(ui), count_(count), next_(std::chrono::steady_clock::now() + after) {}
     // False when the person asked to stop.
     bool Step() {
         ++done_;
@@ -28,8 +28,7 @@ public:
 private:
     Ui& ui_;
     std::size_t count_, done_ = 0;
-    std::chrono::steady_clock::time_point next_ =
-        std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
+    std::chrono::steady_clock::time_point next_;
     std::optional<Progress> progress_;
 };
 
@@ -152,7 +151,7 @@ int ExclusionModel::AddMatching(const Match& match) {
     {
         const ExclusionList::Batch batch(list);
         const std::vector<int> nodes = tvComponents.InOrder();
-        LateProgress progress(ui_, nodes.size());
+        LateProgress progress(ui_, nodes.size(), progressAfter);
         for (const int node : nodes) {
             for (const CandidateProperty& candidate : CandidatesOf(node))
                 if (match(candidate)) added += list.AddNew(ItemOf(tvComponents[node].text, candidate.text));

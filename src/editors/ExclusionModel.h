@@ -8,6 +8,7 @@
 #include "runtime/CustomLang.h"
 
 #include <array>
+#include <chrono>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,7 @@ public:
         lbExclCompProps{"Component's Properties"};
     ExclusionPage page = PropertiesPage; // the active one
     bool modified = false;
+    std::chrono::milliseconds progressAfter{500}; // a longer run shows how far it is
 
     ExclusionList& List(ExclusionPage which);
     ExclusionList& ActiveList() { return List(page); }

@@ -18,6 +18,7 @@ FormTakeBack::FormTakeBack(IdeServices& ide, FormsListItem& item)
     RememberUnit(*module);
     IOTAFormEditor* editor = IdeServices::GetFormEditorFromModule(module);
     if (!editor) return;
+    wasModified_ = editor->Modified();
     for (TComponent* component : editor->Designer().Root().Components()) {
         components_.insert(component);
         if (auto* glotta = dynamic_cast<TgxCustomLang*>(component)) {
@@ -63,7 +64,10 @@ void FormTakeBack::RestoreComponents(IOTAFormEditor& editor) {
         glotta->Node().properties = properties;
         glotta->Loaded();
     }
-    editor.MarkModified();
+    if (wasModified_)
+        editor.MarkModified();
+    else
+        editor.MarkTakenBack();
 }
 
 } // namespace glotta

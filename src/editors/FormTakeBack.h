@@ -27,7 +27,7 @@ private:
     IdeServices& ide_;
     std::string formName_, fileName_;
     FormsListItem entry_;
-    bool wasOpen_;
+    bool wasOpen_, wasModified_ = false;
     std::vector<std::pair<IOTASourceEditor*, std::string>> texts_;
     std::unordered_set<const TComponent*> components_;
     std::vector<std::pair<TgxCustomLang*, std::vector<FormProperty>>> properties_;

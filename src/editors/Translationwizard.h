@@ -83,6 +83,7 @@ private:
     void CreateDispatcher();
     void ConfigureDispatcher();
     void ConfigureManually();
+    std::string FirstDispatcherForm() const;
     std::string FirstContainerForm() const;
     WizardChoices Choices() const;
     void Perform();

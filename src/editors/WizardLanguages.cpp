@@ -64,9 +64,16 @@ void TfrmTranslationWizard::EnterLanguages() {
         const std::vector<std::string> names = SplitLines(context_.settings.DefaultLangNames);
         edLanguagesToUse.Set(CommaText(names.empty() ? NamesOfNewDispatcher(context_.settings) : names));
     }
+    if (cbDispatcherForm().empty()) cbDispatcherForm.Set(FirstDispatcherForm());
     if (cbCommonForm().empty()) cbCommonForm.Set(FirstContainerForm());
     if (!cbDispatcherForm().empty()) RefillDispatchers();
     if (!cbCommonForm().empty()) RefillContainers();
+}
+
+std::string TfrmTranslationWizard::FirstDispatcherForm() const {
+    for (const FormsListItem& item : context_.ide.Forms().items)
+        if (item.dispatcher) return item.formName;
+    return {};
 }
 
 // The first form that has, or gets, a component to which others can be chained.
@@ -134,6 +141,7 @@ void TfrmTranslationWizard::CreateDispatcher() {
             if (!ide.SaveFile(item->fileName)) throw Error(item->fileName + " could not be saved");
             ide.CloseFile(item->fileName);
         }
+        item->dispatcher = true;
         RefillDispatchers();
         cbDispatcher.Set(name);
     } catch (...) {

@@ -70,11 +70,27 @@ std::string LoadBitmapFile(const std::string& fileName) {
     return bytes;
 }
 
-ModalResult EditComboSettings(Ui& ui, TGlottaCombo& combo) {
+namespace {
+
+std::vector<std::string> SourceLanguages(const TGlottaCombo& combo, const VisitForm& otherForm) {
+    const std::string name = combo.SourceName();
+    const std::size_t dot = name.find('.');
+    if (dot == std::string::npos) return TGlottaCombo::LanguageNames(combo.Tree().Root(), name);
+    std::vector<std::string> names;
+    if (otherForm)
+        otherForm(name.substr(0, dot), [&](const TComponent& root) {
+            names = TGlottaCombo::LanguageNames(root, std::string_view(name).substr(dot + 1));
+        });
+    return names;
+}
+
+} // namespace
+
+ModalResult EditComboSettings(Ui& ui, TGlottaCombo& combo, const VisitForm& otherForm) {
     if (!combo.HasSource()) throw Error("Please assign either Glotta or GlottaDispatcher property first!");
     std::vector<TLanguageInfo> infos = combo.LanguageInfos();
-    std::vector<std::string> names = combo.SourceNames();
-    // One item for each language; an item beyond them, or of a component elsewhere, goes by its own name.
+    std::vector<std::string> names = SourceLanguages(combo, otherForm);
+    // One item for each language; an item beyond them, or of a component out of reach, goes by its own name.
     for (std::size_t i = infos.size(); i < names.size(); ++i)
         infos.push_back({names[i], {}, DefaultCharset, {}});
     for (std::size_t i = names.size(); i < infos.size(); ++i)

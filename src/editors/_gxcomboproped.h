@@ -47,8 +47,12 @@ private:
 // A file with a BMP picture; throws Error, which names the file, for any other.
 std::string LoadBitmapFile(const std::string& fileName);
 
+// Shows another form's root to the function; does not call it when there is no such form.
+using VisitForm =
+    std::function<void(const std::string& formName, const std::function<void(const TComponent&)>& visit)>;
+
 // Edits the languages of the drop-down; on OK they are written back. Throws Error when neither Glotta nor
 // GlottaDispatcher is assigned.
-ModalResult EditComboSettings(Ui& ui, TGlottaCombo& combo);
+ModalResult EditComboSettings(Ui& ui, TGlottaCombo& combo, const VisitForm& otherForm = {});
 
 } // namespace glotta

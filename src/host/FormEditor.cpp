@@ -46,7 +46,7 @@ PlainFormEditor::PlainFormEditor(IOTAModule& module, std::string fileName, std::
                                  std::function<void()> onShow)
     : module_(module), fileName_(std::move(fileName)), file_(FormFile::Parse(bytes, fileName_, codePage)),
       unit_(unit), heritage_(unit_, file_.Root(), std::move(findAncestor)),
-      tree_(file_, heritage_.RootBase()), rootHandle_(tree_.Root()),
+      tree_(file_, heritage_.RootBase(), ClassCatalogue::OfForm(fileName_)), rootHandle_(tree_.Root()),
       history_(tree_, [this] { return Texts ? Texts() : std::vector<PlainSourceEditor*>(); }),
       designer_(tree_, unit_, heritage_, [this] { MarkModified(); }), onShow_(std::move(onShow)) {
     designer_.isInherited = [this](const std::string& name) { return IsInherited(name); };

@@ -47,6 +47,10 @@ public:
         history_.Touch();
         if (OnView) OnView();
     }
+    void MarkTakenBack() override {
+        history_.MarkSaved();
+        if (OnView) OnView();
+    }
     // A person's change, as one step that can be undone; what fails leaves everything as it was.
     void Step(const std::function<void()>& change);
     // What a registered editor does: such a step when it tells the designer of a change.

@@ -11,10 +11,9 @@ bool IsLocalization(const ClassCatalogue& catalogue, std::string_view className)
     return catalogue.InheritsFrom(className, "TgxCustomLang");
 }
 
-// Component objects are built only for a form that has a localization component: most have none.
-bool HoldsLocalization(const FormNode& node, const ClassCatalogue& catalogue) {
+template <class Wanted> bool Holds(const FormNode& node, const Wanted& wanted) {
     return std::any_of(node.children.begin(), node.children.end(), [&](const auto& child) {
-        return IsLocalization(catalogue, child->className) || HoldsLocalization(*child, catalogue);
+        return wanted(child->className) || Holds(*child, wanted);
     });
 }
 
@@ -44,8 +43,12 @@ FormAnalysis AnalyzeFormFile(const std::string& formFile) {
     RegisterGlottaClasses();
     const ClassCatalogue& catalogue = ClassCatalogue::BuiltIn();
     FormFile form = FormFile::Parse(ReadFile(PathFromText(formFile)), formFile);
-    FormAnalysis analysis{form.Root().name, 0, {}};
-    if (!HoldsLocalization(form.Root(), catalogue)) return analysis;
+    FormAnalysis analysis;
+    analysis.formName = form.Root().name;
+    const auto isDispatcher = [&](std::string_view name) { return catalogue.InheritsFrom(name, "TGlottaDispatcher"); };
+    analysis.dispatcher = Holds(form.Root(), isDispatcher);
+    // Component objects are built only for a form that has a localization component: most have none.
+    if (!Holds(form.Root(), [&](std::string_view name) { return IsLocalization(catalogue, name); })) return analysis;
     ComponentTree tree(form, {}, catalogue);
     for (TComponent* component : tree.Root().Components()) {
         if (!IsLocalization(catalogue, component->ClassName())) continue;
@@ -69,6 +72,7 @@ FormsList ListProjectForms(const IOTAProject& project, std::vector<std::string>&
             const FormAnalysis analysis = AnalyzeFormFile(info.formFile);
             item.languages = std::to_string(analysis.languages);
             item.glotta = analysis.glotta;
+            item.dispatcher = analysis.dispatcher;
             item.imageIndex = analysis.glotta.empty() ? 0 : 1;
         } catch (const Error& error) {
             errors.emplace_back(error.what());

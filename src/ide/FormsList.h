@@ -15,6 +15,7 @@ struct FormsListItem {
     std::string languages = "0"; // number of languages as decimal text; "0": not translated
     std::string glotta;          // class name of the localization component, empty when there is none
     int imageIndex = 0;          // 1: has a localization component
+    bool dispatcher = false;     // has a TGlottaDispatcher
     bool selected = false;
     bool focused = false;
     std::weak_ptr<IOTAModuleNotifier> data; // the entry's own notifier of its module
@@ -33,6 +34,7 @@ struct FormAnalysis {
     std::string formName;
     int languages = 0;
     std::string glotta;
+    bool dispatcher = false;
 };
 // Throws Error for a form file that cannot be read.
 FormAnalysis AnalyzeFormFile(const std::string& formFile);

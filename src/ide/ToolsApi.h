@@ -113,6 +113,7 @@ public:
     // Takes a component off the form, and its field out of the form class; `uses` stays.
     virtual void DeleteComponent(TComponent& component) = 0;
     virtual void MarkModified() = 0;
+    virtual void MarkTakenBack() {} // all changes since it was saved were undone from outside
     virtual IDesigner& Designer() = 0;
 };
 

@@ -92,12 +92,14 @@ bool TfrmGlotta::ReadOpenForm(FormsListItem& item) {
     item.formName = editor->Designer().Root().Name();
     item.languages = "0";
     item.glotta.clear();
-    for (TComponent* component : editor->Designer().Root().Components())
-        if (const auto* glotta = dynamic_cast<TgxCustomLang*>(component)) {
-            item.languages = std::to_string(glotta->NumberOfLanguages());
-            item.glotta = glotta->ClassName();
-            break;
-        }
+    item.dispatcher = false;
+    for (TComponent* component : editor->Designer().Root().Components()) {
+        const auto* glotta = dynamic_cast<TgxCustomLang*>(component);
+        item.dispatcher = item.dispatcher || dynamic_cast<TGlottaDispatcher*>(component);
+        if (!glotta || !item.glotta.empty()) continue;
+        item.languages = std::to_string(glotta->NumberOfLanguages());
+        item.glotta = glotta->ClassName();
+    }
     item.imageIndex = item.glotta.empty() ? 0 : 1;
     return true;
 }

@@ -19,7 +19,8 @@ void TgxStringsProperty::Edit() {
 // --- combo ---
 
 void TComboConfigurationProperty::Edit() {
-    EditComboSettings(ui_, dynamic_cast<TGlottaCombo&>(Component()));
+    EditComboSettings(ui_, dynamic_cast<TGlottaCombo&>(Component()),
+                      [this](const std::string& form, const auto& visit) { Services().WithForm(form, visit); });
     Modified();
 }
 

@@ -162,8 +162,8 @@ std::string ScalarText(const FormValue& value) {
 
 class Collector {
 public:
-    explicit Collector(const TComponent& localization)
-        : exclusions_(localization), form_(localization.Tree().File()),
+    Collector(const TComponent& localization, Exclusions exclusions)
+        : exclusions_(std::move(exclusions)), form_(localization.Tree().File()),
           viewItems_(localization.InheritsFrom("TGlottaTLV")) {
         for (const ExtendedTranslation& item : ReadExtendedTranslations(localization))
             extended_.insert(item.ID());
@@ -276,14 +276,27 @@ void CollectOwned(const TComponent& owner, const std::string& prefix, Collector&
     }
 }
 
-} // namespace
-
-std::vector<FormText> CollectTexts(const TComponent& localization) {
-    Collector collector(localization);
+std::vector<FormText> Collect(const TComponent& localization, Exclusions exclusions) {
+    Collector collector(localization, std::move(exclusions));
     const TComponent& root = localization.Tree().Root();
     collector.Component(root, {});
     CollectOwned(root, {}, collector);
     return collector.Take();
+}
+
+} // namespace
+
+std::vector<FormText> CollectTexts(const TComponent& localization) {
+    return Collect(localization, Exclusions(localization));
+}
+
+std::unordered_set<std::string, TextHash, TextEqual> ExcludedTexts(const TComponent& localization) {
+    std::unordered_set<std::string, TextHash, TextEqual> ids;
+    for (FormText& text : Collect(localization, {}))
+        ids.insert(std::move(text.id));
+    for (const FormText& text : CollectTexts(localization))
+        ids.erase(text.id);
+    return ids;
 }
 
 } // namespace glotta

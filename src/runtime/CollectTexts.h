@@ -3,6 +3,8 @@
 #include "runtime/StringsType.h"
 #include "vcl/Component.h"
 
+#include <unordered_set>
+
 namespace glotta {
 
 // `id` is the component's name and the property as the form file writes it: "Button1.Caption", "Memo1.Lines",
@@ -16,5 +18,7 @@ struct FormText {
 // All texts of the form around a localization component, in the order of the form file, without what its
 // exclusion lists keep out.
 std::vector<FormText> CollectTexts(const TComponent& localization);
+// The identifiers of those that the exclusion lists keep out.
+std::unordered_set<std::string, TextHash, TextEqual> ExcludedTexts(const TComponent& localization);
 
 } // namespace glotta

@@ -8,6 +8,7 @@ namespace glotta {
 
 class Exclusions {
 public:
+    Exclusions() = default; // of nothing
     explicit Exclusions(const TComponent& localization);
 
     // By its name, or by "!" and its class.

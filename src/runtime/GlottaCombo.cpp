@@ -106,13 +106,16 @@ std::string TGlottaCombo::SourceName(std::string_view property) const {
 }
 
 bool TGlottaCombo::HasSource() const {
-    return !SourceName("Glotta").empty() || !SourceName("GlottaDispatcher").empty();
+    return !SourceName().empty();
 }
 
-std::vector<std::string> TGlottaCombo::SourceNames() const {
+std::string TGlottaCombo::SourceName() const {
     std::string name = SourceName("Glotta");
-    if (name.empty()) name = SourceName("GlottaDispatcher");
-    const TComponent* const source = name.empty() ? nullptr : Tree().Root().FindComponent(name);
+    return name.empty() ? SourceName("GlottaDispatcher") : name;
+}
+
+std::vector<std::string> TGlottaCombo::LanguageNames(const TComponent& form, std::string_view name) {
+    const TComponent* const source = form.FindComponent(name);
     if (!source) return {};
     Languages languages = Languages::Read(*source);
     languages.names.resize(std::size_t(languages.count));

@@ -22,9 +22,11 @@ public:
 
     // Whether 'Glotta' or 'GlottaDispatcher' is assigned.
     bool HasSource() const;
-    // The names of the languages as the assigned component lists them, Glotta before the dispatcher. Empty
-    // when it is on another form.
-    std::vector<std::string> SourceNames() const;
+    // The component that is assigned, Glotta before the dispatcher, as the form file names it: one of another
+    // form by that form's name, too.
+    std::string SourceName() const;
+    // The languages of the component with this name on a form.
+    static std::vector<std::string> LanguageNames(const TComponent& form, std::string_view name);
 
     std::vector<TLanguageInfo> LanguageInfos() const;
     // What did not change stays as it is written, and so does what an item holds besides. The count is that

@@ -1,5 +1,6 @@
 #include "translation/TransTexts.h"
 
+#include "runtime/CollectTexts.h"
 #include "runtime/Record.h"
 
 #include <algorithm>
@@ -15,13 +16,41 @@ bool IsUsableID(std::string_view id) {
 TransTexts::TransTexts(const TgxCustomLang& component) {
     names_ = component.LangNames();
     names_.resize(std::size_t(component.NumberOfLanguages()));
+    const IDs excluded = component.IgnoreRemovals() ? ExcludedTexts(component) : IDs();
     for (int kind = 0; kind < StringsTypeCount; ++kind) {
         List& list = lists_[std::size_t(kind)];
         list.records = component.Strings(TStringsType(kind)).Items();
+        if (kind != stStrings && !excluded.empty()) SetAside(list, excluded);
         list.untranslated.resize(names_.size() + 1);
         for (const std::string& record : list.records)
             CountRecord(list, record, 1);
     }
+}
+
+void TransTexts::SetAside(List& list, const IDs& excluded) {
+    std::vector<std::string> shown;
+    for (std::size_t place = 0; place < list.records.size(); ++place) {
+        std::string& record = list.records[place];
+        if (excluded.contains(RecordField(record, 1)))
+            list.excluded.emplace_back(place, std::move(record));
+        else
+            shown.push_back(std::move(record));
+    }
+    list.records = std::move(shown);
+}
+
+std::vector<std::string> TransTexts::Whole(const List& list) {
+    std::vector<std::string> records;
+    records.reserve(list.records.size() + list.excluded.size());
+    auto excluded = list.excluded.begin();
+    for (const std::string& record : list.records) {
+        for (; excluded != list.excluded.end() && excluded->first == records.size(); ++excluded)
+            records.push_back(excluded->second);
+        records.push_back(record);
+    }
+    for (; excluded != list.excluded.end(); ++excluded)
+        records.push_back(excluded->second);
+    return records;
 }
 
 // One pass over the record; a list that ends early has empty texts behind.
@@ -102,7 +131,7 @@ bool TransTexts::Contains(TStringsType kind, std::size_t row, std::string_view u
 void TransTexts::WriteTo(TgxCustomLang& component) {
     for (int kind = 0; kind < StringsTypeCount; ++kind)
         if (changed_.test(std::size_t(kind)))
-            component.SetStrings(TStringsType(kind), lists_[std::size_t(kind)].records);
+            component.SetStrings(TStringsType(kind), Whole(lists_[std::size_t(kind)]));
     changed_.reset();
 }
 

@@ -1,5 +1,6 @@
 // The texts of a localization component while they are translated: records as the component holds them,
-// decoded cell by cell when somebody looks.
+// decoded cell by cell when somebody looks. Records of what is excluded, which a component keeps that ignores
+// removals, are not among them; they stay where they are.
 #pragma once
 #include "platform/Text.h"
 #include "runtime/CustomLang.h"
@@ -10,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace glotta {
@@ -48,9 +50,13 @@ public:
 private:
     struct List {
         std::vector<std::string> records;
+        std::vector<std::pair<std::size_t, std::string>> excluded; // with their places in the whole list
         std::vector<std::size_t> untranslated;  // by language, from 1
         mutable std::vector<std::string> upper; // for searching; built when somebody searches
     };
+    using IDs = std::unordered_set<std::string, TextHash, TextEqual>;
+    static void SetAside(List& list, const IDs& excluded);
+    static std::vector<std::string> Whole(const List& list); // with the excluded ones
     void CountRecord(List& list, std::string_view record, int by) const;
     void Put(TStringsType kind, std::size_t row, int field, std::string_view text);
     std::vector<std::string> names_;

@@ -128,6 +128,26 @@ const ClassCatalogue& ClassCatalogue::BuiltIn() {
     return catalogue;
 }
 
+const ClassCatalogue& ClassCatalogue::Clx() {
+    static const ClassCatalogue catalogue = [] {
+        ClassCatalogue result = BuiltIn();
+        result.textKind_ = TTypeKind::tkWString;
+        for (auto& [name, info] : result.classes_)
+            for (PropertyInfo& property : info.properties)
+                if (property.kind == TTypeKind::tkLString && property.typeName != "TComponentName")
+                    property.kind = TTypeKind::tkWString;
+        return result;
+    }();
+    return catalogue;
+}
+
+const ClassCatalogue& ClassCatalogue::OfForm(std::string_view formFile) {
+    constexpr std::string_view extension = ".xfm";
+    const bool clx = formFile.size() >= extension.size() &&
+                     SameText(formFile.substr(formFile.size() - extension.size()), extension);
+    return clx ? Clx() : BuiltIn();
+}
+
 const ClassInfo* ClassCatalogue::Find(std::string_view className) const {
     const auto found = classes_.find(className);
     return found == classes_.end() ? nullptr : &found->second;

@@ -51,6 +51,11 @@ struct ClassInfo {
 class ClassCatalogue {
 public:
     static const ClassCatalogue& BuiltIn();
+    // The same classes as CLX publishes them: texts are wide strings.
+    static const ClassCatalogue& Clx();
+    static const ClassCatalogue& OfForm(std::string_view formFile); // by its extension
+    // Of texts that only a form file tells of.
+    TTypeKind TextKind() const { return textKind_; }
 
     // Class names compare without regard to letter case. Nil when unknown.
     const ClassInfo* Find(std::string_view className) const;
@@ -74,6 +79,7 @@ public:
 
 private:
     ClassMap classes_;
+    TTypeKind textKind_ = TTypeKind::tkLString;
 };
 
 } // namespace glotta

@@ -37,7 +37,7 @@ std::string_view ObjectClass(std::string_view name, std::string_view below) {
 }
 
 // What a value in the file says about a property that the catalogue does not know; `name` may be dotted.
-PropertyInfo InfoFromFile(std::string_view name, const FormValue& value) {
+PropertyInfo InfoFromFile(std::string_view name, const FormValue& value, TTypeKind textKind) {
     const std::size_t dot = name.find('.');
     PropertyInfo info{std::string(name.substr(0, dot)), {}, TTypeKind::tkUnknown};
     if (dot != std::string_view::npos) {
@@ -52,6 +52,7 @@ PropertyInfo InfoFromFile(std::string_view name, const FormValue& value) {
             info.kind = known.kind;
             info.typeName = known.typeName;
         }
+    if (value.kind == FormValueKind::String) info.kind = textKind;
     return info;
 }
 
@@ -79,7 +80,7 @@ std::vector<PropertyInfo> PublishedObject::Properties() const {
             if (!StartsWithText(property.name, prefix_)) continue;
             const std::string_view name = std::string_view(property.name).substr(prefix_.size());
             if (names.insert(name.substr(0, name.find('.'))).second)
-                properties.push_back(InfoFromFile(name, property.value));
+                properties.push_back(InfoFromFile(name, property.value, catalogue_->TextKind()));
         }
     return properties;
 }
@@ -91,7 +92,7 @@ std::optional<PropertyInfo> PublishedObject::FindProperty(std::string_view name)
             if (!StartsWithText(property.name, prefix_)) continue;
             const std::string_view candidate = std::string_view(property.name).substr(prefix_.size());
             if (SameText(candidate.substr(0, candidate.find('.')), name))
-                return InfoFromFile(candidate, property.value);
+                return InfoFromFile(candidate, property.value, catalogue_->TextKind());
         }
     return {};
 }

@@ -26,9 +26,9 @@ struct Desk {
     ComponentTree tree{file, "TForm"};
     ScriptedUi ui;
     TGlottaCombo& Combo() { return dynamic_cast<TGlottaCombo&>(*tree.Root().FindComponent("Combo")); }
-    ModalResult Edit(std::function<ModalResult(TfrmGlottaComboEditor&)> use) {
+    ModalResult Edit(std::function<ModalResult(TfrmGlottaComboEditor&)> use, const VisitForm& otherForm = {}) {
         ui.Modal<TfrmGlottaComboEditor>(std::move(use));
-        return EditComboSettings(ui, Combo());
+        return EditComboSettings(ui, Combo(), otherForm);
     }
 };
 
@@ -98,6 +98,42 @@ TEST(ComboEditor, LanguagesWithoutItemsGetThem) {
     });
     ASSERT_EQ(desk.Combo().LanguageInfos().size(), 2U);
     EXPECT_EQ(desk.Combo().LanguageInfos()[1], (TLanguageInfo{"Deutsch", "", 1, ""}));
+}
+
+TEST(ComboEditor, TheSourceMayStandOnAnotherForm) {
+    Desk data({}), desk("    Glotta = Data.Glotta1\r\n    LanguageInfos = <\r\n      item\r\n"
+                        "        LanguageName = 'Own'\r\n      end>\r\n");
+    const auto lines = [&](const VisitForm& otherForm) {
+        std::string text;
+        desk.Edit(
+            [&](TfrmGlottaComboEditor& form) {
+                text = JoinLines(form.lbLanguages.Items(), ",");
+                return ModalResult::Cancel;
+            },
+            otherForm);
+        return text;
+    };
+    EXPECT_EQ(lines({}), "Own");
+    EXPECT_EQ(lines([&](const std::string& form, const auto& visit) {
+                  if (form == "Data") visit(data.tree.Root());
+              }),
+              "English,Deutsch");
+    EXPECT_EQ(lines([](const std::string&, const auto&) {}), "Own");
+}
+
+TEST(ComboEditor, WhatDidNotChangeStaysByteForByte) {
+    Desk desk("    glotta = Glotta1\r\n    languageinfos = <\r\n      item\r\n        LanguageName = 'a'#98'c'\r\n"
+              "        Image.Data = {\r\n          020000\r\n          00ab12}\r\n        FontCharset = 204\r\n"
+              "      end\r\n      item\r\n        fontname = \r\n          'Long ' +\r\n          'name'\r\n"
+              "      end>\r\n");
+    const std::string before = desk.file.Write();
+    desk.Edit([](TfrmGlottaComboEditor& form) {
+        form.lbLanguages.Click(1);
+        form.lbLanguages.Click(0);
+        form.btOK.Execute();
+        return ModalResult::OK;
+    });
+    EXPECT_EQ(desk.file.Write(), before);
 }
 
 TEST(ComboEditor, PicturesComeFromFlagsAndFilesAndAreKept) {

@@ -65,6 +65,21 @@ TEST(ExclusionModel, CandidatesAreWhatHoldsTextsAtAnyDepth) {
     EXPECT_TRUE(desk.Model().CanAddProperty("name", "Button1"));
 }
 
+// CLX publishes its texts as wide strings, whatever class they are of.
+TEST(ExclusionModel, TextsOfClxFormsAreWide) {
+    FormFile file = FormFile::Parse("object Form1: TForm1\n  object B: TButton\n    Odd = 'x'\n  end\nend\n", "Main.xfm");
+    const auto types = [&](const char* formFile) {
+        ComponentTree tree(file, "TForm", ClassCatalogue::OfForm(formFile));
+        std::string text;
+        for (const CandidateProperty& each : CandidateProperties(*tree.Root().FindComponent("B"), [](auto) { return true; }))
+            if (each.text == "Odd" || each.text == "Caption" || each.text == "Name" || each.text == "Font")
+                text += each.text + ":" + each.data.PropType + " ";
+        return text;
+    };
+    EXPECT_EQ(types("Main.dfm"), "Name:LString Caption:LString Font:TFont Name:LString Odd:LString ");
+    EXPECT_EQ(types("Main.XFM"), "Name:LString Caption:WString Font:TFont Name:WString Odd:WString ");
+}
+
 // A form owns what its own references name: those are looked into, also when they name each other in a circle.
 TEST(ExclusionModel, TheFormsOwnComponentsAreLookedIntoOnce) {
     ExclusionDesk desk("object Form1: TForm1\n  ActiveControl = A\n"
@@ -159,6 +174,21 @@ TEST(ExclusionModel, SevenHundredComponentsAreDoneAtOnce) {
     model.ClearList(ComponentsPage);
     model.ClearList(CompPropertiesPage);
     EXPECT_FALSE(model.tvComponents.IsMarked(model.tvComponents.Find("ITEM5")));
+}
+
+TEST(ExclusionModel, ALongRunShowsHowFarItIsAndCanBeStopped) {
+    const auto run = [](std::chrono::milliseconds after, bool cancel) {
+        ExclusionDesk desk;
+        if (cancel) desk.ui.Cancel("Components: 1 of 10");
+        desk.Model().progressAfter = after;
+        desk.Model().page = CompPropertiesPage;
+        const int added = desk.Model().AddPropertyToList(TAddbyProperty::apByName, {}, "CAPTION");
+        return std::to_string(added) + " " + desk.ui.Transcript();
+    };
+    using std::chrono_literals::operator""ms;
+    EXPECT_EQ(run(500ms, false), "6 ");
+    EXPECT_TRUE(run(0ms, false).starts_with("6 Progress: Components: 1 of 10\n")) << run(0ms, false);
+    EXPECT_TRUE(run(0ms, true).starts_with("1 Progress: Components: 1 of 10\n")) << run(0ms, true);
 }
 
 TEST(ExclusionModel, WhatIsExcludedIsNotCollectedUntilItIsTakenBack) {

@@ -131,8 +131,12 @@ TEST(Wizard, PagesAndTheirRules) {
         note();
         desk.Next(1);
     }
-    EXPECT_EQ(wizard.Page(), tsLanguageSettings); // no dispatcher chosen
+    EXPECT_EQ(wizard.Page(), tsSetProperties);
+    wizard.btnBack.Execute();
+    EXPECT_EQ(wizard.cbDispatcherForm() + "." + wizard.cbDispatcher(), "Data1.GlottaDispatcher1"); // the first
     desk.Choose(wizard.cbDispatcherForm, "Form3");
+    desk.Next(1);
+    EXPECT_EQ(wizard.Page(), tsLanguageSettings); // no dispatcher chosen
     EXPECT_EQ(wizard.cbDispatcher() + (wizard.btnNext.Enabled() ? " next" : ""), "(none)");
     desk.Choose(wizard.cbDispatcherForm, "Data1");
     EXPECT_EQ(wizard.cbDispatcher() + (wizard.btnNext.Enabled() ? " next" : ""), "GlottaDispatcher1 next");
@@ -158,7 +162,7 @@ TEST(Wizard, PagesAndTheirRules) {
     desk.Next(1);
     note();
     EXPECT_EQ(pages, "0Translation Wizard next close; 1Insert components back+ next close; "
-                     "2Fine Tunings back+ close; 3Configure properties back+ next close; "
+                     "2Fine Tunings back+ next close; 3Configure properties back+ next close; "
                      "4Confirmation back+ next close; 5Please wait... back; 6Wizard completed back close; ");
     EXPECT_EQ(desk.refreshes, 1);
     EXPECT_TRUE(wizard.Close(desk.ui, ModalResult::Cancel)); // done: no question
@@ -306,6 +310,7 @@ TEST(Wizard, AnOpenFormIsBroughtBackWithItsUnit) {
     EXPECT_EQ(desk.ide.ModifiedFiles().size(), 2u);
     before.TakeBack();
     EXPECT_EQ(desk.ide.ModifiedFiles().size(), 0u);
+    EXPECT_EQ(desk.OpenUnits(), "Data1 "); // without a question when it is closed
     EXPECT_EQ(desk.services.GetOwnerByName("Data1")->Components().size(), 1u);
     EXPECT_EQ(desk.translation.GetGlotta("Data1")->NumberOfLanguages(), 1);
     EXPECT_EQ(item.languages, "1");

@@ -83,6 +83,26 @@ TEST(TransEditor, CollectsTheFormsTextsAndGivesThemBackUnlessOk) {
     EXPECT_FALSE(desk.Edit([](TfrmTransEditor&) {}));
 }
 
+// A component that ignores removals keeps what is excluded, in its place; the editor does not show it.
+TEST(TransEditor, WhatIsExcludedIsAbsent) {
+    Desk desk;
+    desk.glotta->UpdateTranslations();
+    for (const bool kept : {true, false}) {
+        desk.glotta->SetIgnoreRemovals(kept);
+        desk.glotta->SetSmartProps({"form1.caption"});
+        desk.glotta->SetExProps({"Hint"});
+        EXPECT_TRUE(desk.Edit([](TfrmTransEditor& form) {
+            form.lbKinds.SelectOnly(form.lbKinds.Listed(stCaptions));
+            EXPECT_EQ(Shown(form).substr(Shown(form).rfind(": ")), ": *Button1.Caption ");
+            form.Column.Enter(3);
+            form.sgTexts.Enter(0, 3, form.sgTexts.CellText(0, 3) + "x");
+        }));
+        EXPECT_EQ(desk.Records(stCaptions) + desk.Records(stHints),
+                  kept ? "Form1.Caption|Orders||;Button1.Caption|Save||x;Button1.Hint|Saves all||;"
+                       : "Button1.Caption|Save||xx;");
+    }
+}
+
 TEST(TransEditor, TypedTextsReachTheRecordWithTheLineEndsOfTheFirstLanguage) {
     Desk desk;
     EXPECT_TRUE(desk.Edit([](TfrmTransEditor& form) {
