@@ -27,7 +27,7 @@ TGlottaExpert::TGlottaExpert(ExpertPorts ports)
         };
         editor->ShowAboutBox = [this] { ShowAboutBox(); };
         editor->OnChangeStrID = [this](const std::string& formName, const std::string& oldID,
-                                       const std::string& newID) {
+                                       std::string& newID) {
             IdentifierRename(services_).OnChangeStrID(formName, oldID, newID);
         };
     }

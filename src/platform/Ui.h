@@ -22,6 +22,7 @@ struct FileDialog {
     int filterIndex = 1;
     std::string fileName;
     bool allowMultiSelect = false;
+    bool mustExist = true; // of files to open
     std::vector<std::string> files; // the answer
 };
 

@@ -32,8 +32,8 @@ public:
     std::function<bool(const std::string& id, bool activate)> NavigateToSource;
     std::function<void()> ShowAboutBox;
     // A string's identifier was changed and is to be changed in the source; without it the source stays as it
-    // is.
-    std::function<void(const std::string& formName, const std::string& before, const std::string& id)>
+    // is. Gives the identifier to use in `id`: the one before when the person did not want the change.
+    std::function<void(const std::string& formName, const std::string& before, std::string& id)>
         OnChangeStrID;
 };
 

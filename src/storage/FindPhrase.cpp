@@ -147,6 +147,23 @@ void FindPhrase::ForEachForm(const char* doing,
     }
 }
 
+// The identifiers from `first` on. One that the source goes on using is put back.
+void FindPhrase::RenameInSource(TgxCustomLang& component, PhraseReplacements& done, std::size_t first) {
+    for (std::size_t i = first; i < done.identifiers.size(); ++i) {
+        PhraseIdentifier& one = done.identifiers[i];
+        if (one.kind != stStrings || !one.refusal.empty()) continue;
+        std::string used = one.id;
+        OnChangeStrID(one.formName, one.before, used);
+        const int place = component.GetIDIndex(one.id), taken = component.GetIDIndex(used);
+        if (used == one.id || place < 0 || (taken >= 0 && taken != place)) continue;
+        std::vector<std::string> records = component.Strings(stStrings).Items();
+        records[std::size_t(place)] = WithField(records[std::size_t(place)], 1, used);
+        component.SetStrings(stStrings, std::move(records));
+        one.id = used;
+        --done.texts;
+    }
+}
+
 std::vector<FoundPhrase> FindPhrase::Find(const PhraseOptions& options) {
     const Phrase phrase(options);
     std::vector<FoundPhrase> found;
@@ -175,11 +192,7 @@ PhraseReplacements FindPhrase::Replace(const PhraseReplacement& replacement) {
         const std::size_t known = done.identifiers.size();
         const bool goOn = replacer.Run();
         ask = replacer.Ask; // "Yes To All" holds for all forms
-        if (OnChangeStrID)
-            for (std::size_t i = known; i < done.identifiers.size(); ++i)
-                if (const PhraseIdentifier& one = done.identifiers[i];
-                    one.kind == stStrings && one.refusal.empty())
-                    OnChangeStrID(one.formName, one.before, one.id);
+        if (OnChangeStrID) RenameInSource(component, done, known);
         return Work{replacer.Changed(), goOn};
     });
     return done;

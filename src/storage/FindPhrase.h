@@ -42,9 +42,9 @@ public:
     void Findword1Click(RegistryStore& registry, std::unique_ptr<TfrmFoundPhrases>& window);
     void Replacephrase1Click(RegistryStore& registry);
 
-    // A string's identifier was replaced: its calls in the source are to follow. Without it the source stays
-    // as it is, and the command says so.
-    std::function<void(const std::string& formName, const std::string& before, const std::string& id)>
+    // A string's identifier was replaced: its calls in the source are to follow. It gives the identifier to
+    // use. Without it the source stays as it is, and the command says so.
+    std::function<void(const std::string& formName, const std::string& before, std::string& id)>
         OnChangeStrID;
 
 private:
@@ -53,6 +53,7 @@ private:
     };
     void ForEachForm(const char* doing,
                      const std::function<Work(const FormsListItem&, TgxCustomLang&)>& work);
+    void RenameInSource(TgxCustomLang& component, PhraseReplacements& done, std::size_t first);
     void Tell(const PhraseReplacements& done);
     IdeServices& ide_;
     FormTranslation& translation_;

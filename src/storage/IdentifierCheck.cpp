@@ -98,6 +98,10 @@ public:
     }
 
 private:
+    bool IsOwnForm(const std::string& name) const {
+        return SameText(name, "Self") || (flavour_.IsCPPSource && name == "this");
+    }
+
     // The text up to the closing quote; nothing when the line has none.
     std::optional<std::string_view> Argument(const Call& call) const {
         const std::string_view rest = source_.substr(call.argument, call.lineEnd - call.argument);
@@ -133,7 +137,7 @@ private:
     void CheckCall(const Call& call, std::string_view id) {
         const Qualifiers named =
             ReadQualifiers(source_.substr(call.lineBegin, call.name - call.lineBegin), flavour_.METHODPOINT);
-        const bool isOther = named.hasForm && !SameText(named.form, "Self");
+        const bool isOther = named.hasForm && !IsOwnForm(named.form);
         const FormIDs* const form = isOther ? findForm_(named.form) : form_;
         const ComponentIDs* const component = form ? form->Addressed(named.component) : nullptr;
         if (component && component->ids.IndexOf(id) >= 0) return;

@@ -32,7 +32,7 @@ bool IdentifierRename::WriteLines(const std::string& fileName, const std::string
 // --- with the developer ---
 
 void IdentifierRename::OnChangeStrID(const std::string& formName, const std::string& oldID,
-                                     const std::string& newID) {
+                                     std::string& newID) {
     Ui& ui = ide_.GetUi();
     IOTASourceEditor* const editor = ide_.GetSourceEditorFromFormName(formName);
     if (!editor) {
@@ -42,7 +42,13 @@ void IdentifierRename::OnChangeStrID(const std::string& formName, const std::str
     const std::string ownUnit = editor->FileName();
     TfrmStrReplace dialog(ui);
     dialog.SetUnits(UnitsInLanguageOf(ownUnit), ownUnit);
-    if (ui.ShowModal(dialog) != ModalResult::OK) return;
+    bool changed = false; // a unit: the component has to follow
+    const auto goesOn = [&] {
+        if (ui.ShowModal(dialog) == ModalResult::OK) return true;
+        if (!changed) newID = oldID;
+        return false;
+    };
+    if (!goesOn()) return;
     const std::vector<std::string> files = dialog.lbScanUnits.Items();
     for (const std::string& file : files) {
         OpenedUnit unit(ide_, file);
@@ -57,11 +63,13 @@ void IdentifierRename::OnChangeStrID(const std::string& formName, const std::str
             continue;
         }
         dialog.ShowLines(file, std::move(lines));
-        if (ui.ShowModal(dialog) != ModalResult::OK) return;
+        if (!goesOn()) return;
         if (!WriteLines(file, source, dialog.lvSourceLines.Lines()))
             ui.MessageDlg("There was an error occured during source update!", MsgType::Error);
-        else if (!RenameEdits(dialog.lvSourceLines.Lines()).empty())
+        else if (!RenameEdits(dialog.lvSourceLines.Lines()).empty()) {
             unit.Keep();
+            changed = true;
+        }
     }
 }
 

@@ -12,8 +12,9 @@ class IdentifierRename {
 public:
     explicit IdentifierRename(IdeServices& ide) : ide_(ide) {}
 
-    // The developer chooses the units and the lines; every unit is changed in one undoable step.
-    void OnChangeStrID(const std::string& formName, const std::string& oldID, const std::string& newID);
+    // The developer chooses the units and the lines; every unit is changed in one undoable step. `newID` is
+    // the old identifier again when the developer cancels before any unit was changed.
+    void OnChangeStrID(const std::string& formName, const std::string& oldID, std::string& newID);
 
     // Without questions. Renames the identifier in the form's component that holds it, and in the units'
     // sources. Throws Error, before anything is changed, for an unknown form or identifier and for a new one

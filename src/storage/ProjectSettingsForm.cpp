@@ -51,6 +51,7 @@ TfrmProjectTranslationSettings::TfrmProjectTranslationSettings(Ui& ui, const TGl
     caption = "Project Translation Settings";
     std::sort(formNames.begin(), formNames.end(),
               [](const auto& a, const auto& b) { return CompareText(a, b) < 0; });
+    formNames.insert(formNames.begin(), std::string()); // to choose none
     formNames_.Assign(std::move(formNames));
     edDictionary.OnChange = [this] { DictionaryChanged(); };
     cbBaseLanguage.OnChange = [this] { CheckBaseLanguage(); };
@@ -70,6 +71,7 @@ TfrmProjectTranslationSettings::TfrmProjectTranslationSettings(Ui& ui, const TGl
                          {},
                          [this] {
                              FileDialog dialog;
+                             dialog.mustExist = false; // it is to be saved, perhaps
                              dialog.defaultExtension = "glb";
                              dialog.filter =
                                  "TGlotta text files (*.glt)|*.glt|TGlotta binary files (*.glb)|*.glb";

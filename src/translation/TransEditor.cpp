@@ -3,6 +3,7 @@
 #include "translation/ExtendedTranslations.h"
 
 #include <algorithm>
+#include <map>
 
 namespace glotta {
 
@@ -195,7 +196,7 @@ bool TfrmTransEditor::EnterID(std::size_t record, const std::string& id) {
                        MsgType::Warning, {ModalResult::Yes, ModalResult::No}) != ModalResult::Yes)
         return false;
     texts_.Rename(record, id);
-    renamed_.emplace_back(before, id);
+    renamed_.push_back({record, before, id});
     return true;
 }
 
@@ -309,10 +310,28 @@ void TfrmTransEditor::TakeBack() {
             component_.SetStrings(TStringsType(kind), before_[std::size_t(kind)]);
 }
 
+// A string that the source goes on calling as before keeps that identifier, unless another one took it.
+void TfrmTransEditor::RenameInSource() {
+    std::map<std::size_t, std::string> inSource; // by record
+    for (const auto& [record, before, id] : renamed_) {
+        std::string& known = inSource.try_emplace(record, before).first->second;
+        if (known == id) continue;
+        std::string used = id;
+        hooks_.OnChangeStrID(component_.Tree().Root().Name(), known, used);
+        known = used;
+    }
+    for (const auto& [record, id] : inSource) {
+        const std::string now = texts_.ID(stStrings, record);
+        if (now == id) continue;
+        if (SameText(now, id) || !texts_.HasID(id))
+            texts_.Rename(record, id);
+        else
+            ui_.MessageDlg("Identifier \"" + id + "\" is already used for another string!", MsgType::Error);
+    }
+}
+
 void TfrmTransEditor::Write() {
-    if (hooks_.OnChangeStrID)
-        for (const auto& [before, id] : renamed_)
-            hooks_.OnChangeStrID(component_.Tree().Root().Name(), before, id);
+    if (hooks_.OnChangeStrID) RenameInSource();
     texts_.WriteTo(component_);
     for (int kind = 0; kind < StringsTypeCount; ++kind)
         changed_ = changed_ || component_.Strings(TStringsType(kind)).Items() != before_[std::size_t(kind)];

@@ -63,6 +63,7 @@ private:
     bool GoToUntranslatedIn(int language, int step, bool wholeKind);
     void CopyFirst();
     void RenameID();
+    void RenameInSource();
     void Navigate();
     static Lists Collect(TgxCustomLang& component); // gives the lists as they were
     void Write();
@@ -71,7 +72,11 @@ private:
     Ui& ui_;
     TgxCustomLang& component_;
     const TransEditor& hooks_;
-    std::vector<std::pair<std::string, std::string>> renamed_; // old and new identifier, in order
+    struct Renamed {
+        std::size_t record;
+        std::string before, id;
+    };
+    std::vector<Renamed> renamed_; // in the order in which it was done
     bool changed_ = false;
 };
 

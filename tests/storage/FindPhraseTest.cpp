@@ -212,11 +212,13 @@ TEST(ReplacePhrase, IdentifiersStayUniqueAndAreReported) {
     replace("hello", "HELLO",
             "Source code that uses these identifiers is not changed:\r\nForm1: \"Hello\" -> \"HELLO\"");
     std::string told;
-    desk.find.OnChangeStrID = [&](const std::string& form, const std::string& before, const std::string& id) {
-        told += form + " " + before + " " + id;
+    desk.find.OnChangeStrID = [&](const std::string& form, const std::string& before, std::string& id) {
+        told += form + " " + before + " " + id + ";";
+        if (id == "Unwanted") id = before;
     };
     replace("hello", "IDS_9", nullptr);
-    EXPECT_EQ(told, "Form1 HELLO IDS_9");
+    replace("IDS_9", "Unwanted", nullptr); // comes back
+    EXPECT_EQ(told, "Form1 HELLO IDS_9;Form1 IDS_9 Unwanted;");
     EXPECT_TRUE(desk.Shown().starts_with("Form1 2: Glotta1 Button1.Caption|Hello World|Hallo "
                                          "Hello.Caption|Bye|hello hello IDS_9|x IDS_2|HüLLE|\nForm2"))
         << desk.Shown();

@@ -91,6 +91,13 @@ TEST(IdentifierCheck, FindsCallsThatAskInVain) {
         "Line: 1\n");
     EXPECT_EQ(Checked("Form2->Other->GetText(\"Y\" /* n */ ); Form2.Other.GetText(\"Y\")", "", CppFlavour),
               "Y: Not found in Form2.Other Line: 1\nY: Can't be autochecked. Line: 1\n");
+    // "this" is the form itself in C++ alone.
+    EXPECT_EQ(Checked("this->glotta2->GetText(\"Straße\") + this->GetText(\"IDS_1\") + GetText(\"IDS_2\");\n"
+                      "this->glotta1->GetText(\"Y\"); Self->glotta2->GetText(\"Y\"); This->glotta1->GetText(\"Y\")",
+                      "Form1", CppFlavour),
+              "Y: Not found in Form1.glotta1 Line: 2\nY: Not found in Form1.glotta2 Line: 2\n"
+              "Y: Can't be autochecked. Line: 2\n");
+    EXPECT_EQ(Checked("this.Other.GetText('X')", "Form2"), "X: Can't be autochecked. Line: 1\n");
 }
 
 std::string Renamed(std::string_view source, const SourceFlavour& flavour = PascalFlavour) {

@@ -21,7 +21,12 @@ struct RenameDesk : TranslationDesk {
         Open();
         OpenUnit("Form1");
     }
-    void Rename() { IdentifierRename(services).OnChangeStrID("Form1", "OLD", "New"); }
+    // The identifier that the component is to use.
+    std::string Rename() {
+        std::string newID = "New";
+        IdentifierRename(services).OnChangeStrID("Form1", "OLD", newID);
+        return newID;
+    }
     IOTASourceEditor& Editor(const char* unit) { return *services.GetSourceEditorFromFileName(FileOf(unit)); }
     std::string Text(const char* unit) {
         return ReplaceStr(Editor(unit).CreateReader()->GetText(0, 1000), "\r\n", "~");
@@ -90,7 +95,7 @@ TEST(IdentifierRename, ShowsTheUnitsThenTheLines) {
         return ModalResult::OK;
     });
     desk.ui.Message(NoLines).Message(Skipped);
-    desk.Rename();
+    EXPECT_EQ(desk.Rename(), "New");
     EXPECT_EQ(desk.Text("Form1"), "a;~g.GetText('OLD');~mine~GetTextW('OLD')");
     EXPECT_TRUE(desk.Editor("Form1").Undo()); // one step
     EXPECT_FALSE(desk.Editor("Form1").Undo());
@@ -110,7 +115,9 @@ TEST(IdentifierRename, ShowsTheUnitsThenTheLines) {
 TEST(IdentifierRename, EndsWhereItIsCancelled) {
     RenameDesk desk;
     desk.ui.Modal<TfrmStrReplace>(Leave(ModalResult::Cancel));
-    desk.Rename();
+    EXPECT_EQ(desk.Rename(), "OLD");
+    desk.ui.Modal<TfrmStrReplace>(Leave(ModalResult::OK)).Modal<TfrmStrReplace>(Leave(ModalResult::Cancel));
+    EXPECT_EQ(desk.Rename(), "OLD");
     EXPECT_FALSE(desk.Editor("Form1").Modified());
     desk.ui.Modal<TfrmStrReplace>([](TfrmStrReplace& form) {
         form.btAddAll.Execute();
@@ -118,7 +125,7 @@ TEST(IdentifierRename, EndsWhereItIsCancelled) {
     });
     desk.ui.Modal<TfrmStrReplace>(Leave(ModalResult::OK)).Message(NoLines); // the project's source
     desk.ui.Modal<TfrmStrReplace>(Leave(ModalResult::Cancel));
-    desk.Rename();
+    EXPECT_EQ(desk.Rename(), "New"); // Form1 calls it so
     EXPECT_EQ(desk.Text("Form1"), "a;~g.GetText('New');~GetTextC('New') + 'New'~GetTextW('OLD')");
     EXPECT_FALSE(desk.services.IsFileOpen(desk.FileOf("Other")));
 }

@@ -75,11 +75,11 @@ TEST(ProjectSettingsForm, StartsWithWhatTheFileSays) {
             text += (*box)() ? '1' : '0';
         return text;
     };
-    EXPECT_EQ(shown(), "data;Main; 100000");
+    EXPECT_EQ(shown(), ";data;Main; 100000"); // with none to choose
     desk.folder.Put("App.gxproj", "[settings]\r\ndontaskfordictionary=1\r\nDictionaryIgnoreCase=1\r\n"
                                   "DispatcherForm=Main\r\n; kept\r\n[Other]\r\nMine=1\r\n");
     desk.settings.LoadFile();
-    EXPECT_EQ(shown(), "data;Main; Main010000");
+    EXPECT_EQ(shown(), ";data;Main; Main010000");
     desk.ui.Modal<Form>([](Form& form) {
         form.ckbConfirm.Enter(true);
         return ModalResult::OK;

@@ -205,8 +205,9 @@ TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
         EXPECT_TRUE(form.sgTexts.Enter(0, 0, "IDS_9"));
     }));
     std::string log;
-    desk.dialog.OnChangeStrID = [&](const std::string& form, const std::string& before, const std::string& id) {
+    desk.dialog.OnChangeStrID = [&](const std::string& form, const std::string& before, std::string& id) {
         log += form + "." + before + ">" + id + ";";
+        if (id.starts_with("NO")) id = before; // the source stays as it is
     };
     desk.dialog.NavigateToSource = [&](const std::string& id, bool) {
         log += "show " + id + ";";
@@ -222,6 +223,25 @@ TEST(TransEditor, RenamesIdentifiersAndShowsThemInTheSource) {
     }));
     EXPECT_EQ(log, "show ids_10;show IDS_2;Form1.IDS_9>IDS_10;Form1.IDS_10>ids_10;");
     EXPECT_EQ(desk.Records(stStrings), "ids_10|One||;IDS_2|Two\nlines||;");
+
+    // What the source goes on using stays, or comes back, unless another string has it now.
+    log.clear();
+    desk.Edit([&](TfrmTransEditor& form) {
+        EXPECT_TRUE(form.sgTexts.Enter(0, 0, "NO_1"));
+        EXPECT_TRUE(form.sgTexts.Enter(0, 0, "IDS_A"));
+        EXPECT_TRUE(form.sgTexts.Enter(0, 0, "NO_2"));
+    });
+    EXPECT_EQ(desk.Records(stStrings), "IDS_A|One||;IDS_2|Two\nlines||;");
+    EXPECT_FALSE(desk.Edit([&](TfrmTransEditor& form) { form.sgTexts.Enter(0, 0, "NO"); }));
+    EXPECT_EQ(desk.Records(stStrings), "IDS_A|One||;IDS_2|Two\nlines||;");
+    desk.Edit([&](TfrmTransEditor& form) {
+        EXPECT_TRUE(form.sgTexts.Enter(0, 0, "NO"));
+        EXPECT_TRUE(form.sgTexts.Enter(1, 0, "IDS_A"));
+        desk.ui.Message("Identifier \"IDS_A\" is already used for another string!");
+    });
+    EXPECT_EQ(desk.Records(stStrings), "NO|One||;IDS_A|Two\nlines||;");
+    EXPECT_EQ(log, "Form1.ids_10>NO_1;Form1.ids_10>IDS_A;Form1.IDS_A>NO_2;Form1.IDS_A>NO;Form1.IDS_A>NO;"
+                   "Form1.IDS_2>IDS_A;");
 }
 
 TEST(TransEditor, AsksBeforeChangesAreLost) {
