@@ -148,4 +148,11 @@ DesignRegistry::SelectionEditorsOf(const IDesignerSelections& selection, IDesign
     return editors;
 }
 
+std::vector<std::string> DesignRegistry::RequiredUnits(TComponent& component, IDesigner& designer) {
+    std::vector<std::string> units;
+    for (const auto& editor : SelectionEditorsOf({&component}, designer))
+        editor->RequiresUnits(units);
+    return units;
+}
+
 } // namespace glotta

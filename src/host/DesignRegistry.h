@@ -29,6 +29,11 @@ public:
                          std::string_view resource) override;
     std::vector<std::unique_ptr<IProperty>> GetComponentProperties(TComponent& component, IDesigner& designer) override;
 
+    std::vector<TComponent*> OpenForms() override { return ListForms ? ListForms() : std::vector<TComponent*>(); }
+    bool WithForm(const std::string& name, const std::function<void(TComponent& root)>& use) override {
+        return UseForm && UseForm(name, use);
+    }
+
     // What is registered from here on belongs to the new group, until the next one. A package is a group.
     int NewEditorGroup() { return ++group_; }
     // The package is unloaded: nothing of it is left.
@@ -46,6 +51,12 @@ public:
     std::vector<std::unique_ptr<ISelectionEditor>> SelectionEditorsOf(const IDesignerSelections& selection,
                                                                       IDesigner& designer);
 
+    // The units that the component's selection editors ask for.
+    std::vector<std::string> RequiredUnits(TComponent& component, IDesigner& designer);
+
+    // The host's: its forms.
+    std::function<std::vector<TComponent*>()> ListForms;
+    std::function<bool(const std::string& name, const std::function<void(TComponent& root)>& use)> UseForm;
     std::function<void()> OnView; // the window's: something came or went
 
 private:

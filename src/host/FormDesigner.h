@@ -35,6 +35,8 @@ public:
 
     std::function<void(TComponent&, const std::string& oldName, const std::string& newName)> onRenamed;
     std::function<void()> onSelected; // the window's
+    // The form's: makes an action of the class in an action list, and selects it.
+    std::function<void(const std::string& className, TComponent& list, const std::string& category)> createAction;
     // The host's: whether a component's or a form's name is taken by other forms, and the projects' part of a rename.
     std::function<bool(const std::string&)> isInherited;
     std::function<bool(const FormNames&)> isFormTaken;

@@ -1,38 +1,12 @@
 #include "host/FormEditor.h"
 
+#include "host/ComponentPlacing.h"
 #include "platform/Error.h"
 #include "platform/Text.h"
 
 #include <unordered_set>
 
 namespace glotta {
-namespace {
-
-struct Place {
-    std::int64_t left, top;
-};
-
-// Where the IDE's grid has room for one more component that does not show at run time.
-Place FreePlace(const TComponent& root) {
-    constexpr std::int64_t Margin = 8, Step = 32, Columns = 12;
-    std::vector<Place> taken;
-    for (const TComponent* component : root.Components()) {
-        const FormNode& node = component->Node();
-        if (node.Find("Left") && node.Find("Top") && !node.Find("Width"))
-            taken.push_back({component->GetOrdProp("Left"), component->GetOrdProp("Top")});
-    }
-    const auto overlaps = [](std::int64_t a, std::int64_t b) { return a - b < Step && b - a < Step; };
-    for (std::int64_t cell = 0;; ++cell) {
-        const Place place{Margin + cell % Columns * Step, Margin + cell / Columns * Step};
-        const bool free = std::none_of(taken.begin(), taken.end(), [&](const Place& other) {
-            return overlaps(place.left, other.left) && overlaps(place.top, other.top);
-        });
-        if (free) return place;
-    }
-}
-
-} // namespace
-
 IOTAComponent* PlainComponent::GetComponent(int index) {
     if (index < 0 || index >= GetComponentCount()) return nullptr;
     TComponent* child = component_.Components()[static_cast<std::size_t>(index)];
@@ -49,6 +23,9 @@ PlainFormEditor::PlainFormEditor(IOTAModule& module, std::string fileName, std::
       tree_(file_, heritage_.RootBase(), ClassCatalogue::OfForm(fileName_)), rootHandle_(tree_.Root()),
       history_(tree_, [this] { return Texts ? Texts() : std::vector<PlainSourceEditor*>(); }),
       designer_(tree_, unit_, heritage_, [this] { MarkModified(); }), onShow_(std::move(onShow)) {
+    designer_.createAction = [this](const std::string& className, TComponent& list, const std::string& category) {
+        designer_.SelectComponent(&CreateAction(className, list, category));
+    };
     designer_.isInherited = [this](const std::string& name) { return IsInherited(name); };
 }
 
@@ -63,7 +40,13 @@ void PlainFormEditor::Step(const std::function<void()>& change) {
 }
 
 void PlainFormEditor::EditStep(const std::function<void()>& edit) {
-    history_.Step(edit, true);
+    history_.Step(
+        [&] {
+            edit();
+            TComponent* const edited = designer_.SelectedComponent();
+            if (edited && history_.Touched()) AddRequiredUnits(*edited);
+        },
+        true);
     if (OnView) OnView();
 }
 
@@ -87,17 +70,39 @@ std::string PlainFormEditor::FreeName(const std::string& className) {
     return name;
 }
 
-TComponent& PlainFormEditor::CreateComponent(const std::string& className) {
+const ClassInfo& PlainFormEditor::ClassToCreate(const std::string& className) const {
     const ClassInfo* info = tree_.Catalogue().Find(className);
     if (!info || info->unit.empty()) throw Error("Class " + className + " not found");
-    const std::string name = FreeName(info->name);
-    const Place place = FreePlace(tree_.Root());
-    unit_.AddComponent(tree_.Root().ClassName(), name, info->name, info->unit);
-    TComponent& component = tree_.Create(info->name, name);
-    component.SetOrdProp("Left", place.left);
-    component.SetOrdProp("Top", place.top);
+    CheckTakes(tree_.Root(), info->name);
+    return *info;
+}
+
+TComponent& PlainFormEditor::CreateComponent(const std::string& className, const TComponent* selected) {
+    const ClassInfo& info = ClassToCreate(className);
+    const std::string name = FreeName(info.name);
+    unit_.AddComponent(tree_.Root().ClassName(), name, info.name, info.unit);
+    TComponent& component = tree_.Create(info.name, name);
+    PlaceComponent(component, selected);
+    AddRequiredUnits(component);
     MarkModified();
     return component;
+}
+
+TComponent& PlainFormEditor::CreateAction(const std::string& className, TComponent& list, const std::string& category) {
+    TComponent& action = CreateComponent(className, nullptr);
+    action.Node().Remove("Left");
+    action.Node().Remove("Top");
+    action.SetStrProp("Category", category);
+    auto& onForm = tree_.Root().Node().children;
+    list.Node().children.push_back(std::move(onForm.back()));
+    onForm.pop_back();
+    return action;
+}
+
+void PlainFormEditor::AddRequiredUnits(TComponent& component) {
+    if (!RequiredUnits) return;
+    for (const std::string& unit : RequiredUnits(component))
+        unit_.AddUnit(unit);
 }
 
 void PlainFormEditor::DeleteComponent(TComponent& component) {

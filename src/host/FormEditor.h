@@ -41,7 +41,11 @@ public:
     void Show() override { onShow_(); }
     IOTAModule& Module() override { return module_; }
     IOTAComponent* GetRootComponent() override { return &rootHandle_; }
-    TComponent& CreateComponent(const std::string& className) override;
+    TComponent& CreateComponent(const std::string& className) override { return CreateComponent(className, nullptr); }
+    // Where and as a designer would put it: a control goes into what is selected, or what holds that.
+    TComponent& CreateComponent(const std::string& className, const TComponent* selected);
+    // An action goes into its list.
+    TComponent& CreateAction(const std::string& className, TComponent& list, const std::string& category);
     void DeleteComponent(TComponent& component) override;
     void MarkModified() override {
         history_.Touch();
@@ -72,10 +76,14 @@ public:
     // The host's: names of components in forms that this one inherits from or that inherit from it. At run
     // time all of them are components of one form.
     std::function<std::vector<std::string>()> InheritedNames;
+    // The host's: units that the form's unit needs for a component, besides the one that declares its class.
+    std::function<std::vector<std::string>(TComponent&)> RequiredUnits;
     // The host's: the texts that changes of the form may reach.
     FormHistory::Editors Texts;
 
 private:
+    const ClassInfo& ClassToCreate(const std::string& className) const;
+    void AddRequiredUnits(TComponent& component);
     std::string FreeName(const std::string& className);
     bool IsInherited(const std::string& name) const;
     void Follow(const FormHistory::Renames& renames);

@@ -16,22 +16,28 @@ std::vector<FormHistory::TextStep> FormHistory::ChangedSince(const std::vector<T
     for (TextStep& now : Texts()) {
         const auto old = std::find_if(before.begin(), before.end(),
                                       [&](const TextStep& text) { return text.file == now.file; });
-        const std::size_t step = old == before.end() ? 0 : old->step; // 0: opened since
-        if (now.step != step) changed.push_back(std::move(now));
+        now.before = old == before.end() ? 0 : old->newest; // 0: opened since
+        if (now.newest != now.before) changed.push_back(std::move(now));
     }
     return changed;
 }
 
-void FormHistory::UndoTexts(const std::vector<TextStep>& texts) const {
+void FormHistory::UndoTexts(std::vector<TextStep>& texts) const {
     for (PlainSourceEditor* editor : editors_())
-        for (const TextStep& text : texts)
-            if (text.file == editor->FileName() && text.step == editor->Buffer().NewestStep()) editor->Undo();
+        for (TextStep& text : texts) {
+            const UnitBuffer& buffer = editor->Buffer();
+            if (text.file != editor->FileName() || text.newest != buffer.NewestStep()) continue;
+            while (buffer.NewestStep() > text.before)
+                editor->Undo();
+            text.first = buffer.UndoneStep();
+        }
 }
 
 void FormHistory::RedoTexts(const std::vector<TextStep>& texts) const {
     for (PlainSourceEditor* editor : editors_())
         for (const TextStep& text : texts)
-            if (text.file == editor->FileName() && text.step == editor->Buffer().UndoneStep()) editor->Redo();
+            if (text.file == editor->FileName() && text.first && text.first == editor->Buffer().UndoneStep())
+                while (editor->Buffer().NewestStep() < text.newest && editor->Redo()) {}
 }
 
 void FormHistory::Step(const std::function<void()>& change, bool onlyTouched) {
@@ -44,7 +50,8 @@ void FormHistory::Step(const std::function<void()>& change, bool onlyTouched) {
         change();
     } catch (...) {
         inStep_ = false;
-        UndoTexts(ChangedSince(texts));
+        std::vector<TextStep> failed = ChangedSince(texts);
+        UndoTexts(failed);
         before.Restore(tree_);
         throw;
     }

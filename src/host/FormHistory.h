@@ -30,12 +30,15 @@ public:
     void MarkUnsaved() { saved_ = Nowhere; }
     // The form was changed; outside of steps none of them can be undone any more.
     void Touch();
+    bool Touched() const { return touched_; } // by the step that runs
 
 private:
     static constexpr std::size_t Nowhere = static_cast<std::size_t>(-1);
-    struct TextStep {
+    struct TextStep { // what a change did to a text: all steps of its buffer behind `before`
         std::string file;
-        std::size_t step; // the newest one of its buffer
+        std::size_t newest;
+        std::size_t before = 0;
+        std::size_t first = 0; // of them, known once they are undone
     };
     struct FormStep {
         FormSnapshot before, after;
@@ -43,7 +46,7 @@ private:
     };
     std::vector<TextStep> Texts() const;
     std::vector<TextStep> ChangedSince(const std::vector<TextStep>& before) const;
-    void UndoTexts(const std::vector<TextStep>& texts) const;
+    void UndoTexts(std::vector<TextStep>& texts) const;
     void RedoTexts(const std::vector<TextStep>& texts) const;
 
     ComponentTree& tree_;

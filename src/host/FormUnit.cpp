@@ -4,10 +4,9 @@
 #include "platform/Error.h"
 
 namespace glotta {
-namespace {
 
 // Edits of one text that follow each other, each computed on what the ones before leave.
-class Steps {
+class FormUnit::Steps {
 public:
     explicit Steps(const std::string& text) : text_(text) {}
     const std::string& Text() const { return text_; }
@@ -21,6 +20,8 @@ private:
     std::string text_;
     std::vector<TextEdits> groups_;
 };
+
+namespace {
 
 TextEdits AddInheritedCall(std::string_view text, bool isCpp, const std::string& formClass,
                            const std::string& name, const std::string& ancestor) {
@@ -55,12 +56,20 @@ std::string FormUnit::ClassParent(bool isCpp, std::string_view declaration, cons
 void FormUnit::AddComponent(const std::string& formClass, const std::string& name,
                             const std::string& className, const std::string& unit) {
     Steps declaration(Declaration());
+    declaration.Add(isCpp_ ? cpp::AddMember(declaration.Text(), formClass, name, className)
+                           : pascal::AddField(declaration.Text(), formClass, name, className));
+    AddUnit(unit, std::move(declaration));
+}
+
+void FormUnit::AddUnit(const std::string& unit) {
+    AddUnit(unit, Steps(Declaration()));
+}
+
+void FormUnit::AddUnit(const std::string& unit, Steps declaration) {
     if (!isCpp_) {
-        declaration.Add(pascal::AddField(declaration.Text(), formClass, name, className));
         declaration.Add(pascal::AddInterfaceUses(declaration.Text(), unit));
         return declaration.ApplyTo(source_);
     }
-    declaration.Add(cpp::AddMember(declaration.Text(), formClass, name, className));
     declaration.Add(cpp::AddInclude(declaration.Text(), unit + ".hpp", false));
     Steps source(source_.Buffer().Text());
     source.Add(AddPragmaLink(source.Text(), unit));

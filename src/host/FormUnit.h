@@ -26,6 +26,8 @@ public:
     // The field, and the component's unit in `uses` (C++: member, #include and #pragma link).
     void AddComponent(const std::string& formClass, const std::string& name, const std::string& className,
                       const std::string& unit);
+    // In `uses`, of a C++ unit as #include and #pragma link.
+    void AddUnit(const std::string& unit);
     void RemoveField(const std::string& formClass, const std::string& name);
     void RenameField(const std::string& formClass, const std::string& name, const std::string& newName);
 
@@ -46,6 +48,8 @@ public:
     void ShowMethod(const std::string& formClass, const std::string& name);
 
 private:
+    class Steps;
+    void AddUnit(const std::string& unit, Steps declaration);
     const PlainSourceEditor& DeclaringEditor() const;
     PlainSourceEditor& DeclaringEditor() {
         return const_cast<PlainSourceEditor&>(static_cast<const FormUnit*>(this)->DeclaringEditor());

@@ -1,11 +1,12 @@
-// The IDE's own property editors, which those of packages go before.
+// The IDE's own editors, which those of packages go before.
 #pragma once
-#include "ide/DesignIntf.h"
+#include "host/DesignRegistry.h"
 #include "platform/Ui.h"
 
 namespace glotta {
 
-// String lists get their dialog, references to components their drop-down list. `ui` outlives the IDE's services.
-void RegisterIdeEditors(IDesignServices& ide, Ui& ui);
+// String lists get their dialog, references to components their drop-down list, action lists a menu of the actions that
+// packages registered. `ui` outlives the IDE's services.
+void RegisterIdeEditors(DesignRegistry& ide, Ui& ui);
 
 } // namespace glotta

@@ -81,6 +81,9 @@ void PlainModule::OpenForm(std::optional<Encoding> hint) {
             [this](const std::string& formClass) { return host_.FindAncestor(*this, formClass); },
             [this] { host_.ShowModule(*this); });
         form_->InheritedNames = [this] { return host_.InheritedNames(*form_); };
+        form_->RequiredUnits = [this](TComponent& component) {
+            return host_.RequiredUnits(component, form_->Designer());
+        };
         form_->Texts = [this] {
             std::vector<PlainSourceEditor*> texts = host_.ProjectSources();
             texts.push_back(&source_.Editor());

@@ -33,6 +33,8 @@ public:
     virtual void RenameForm(const IOTAModule& module, const FormNames& from, const FormNames& to) = 0;
     // The sources of projects that are open.
     virtual std::vector<PlainSourceEditor*> ProjectSources() = 0;
+    // Units that packages ask for, for a component of an open form.
+    virtual std::vector<std::string> RequiredUnits(TComponent& component, IDesigner& designer) = 0;
     virtual void AddProblem(std::string problem) = 0;
     // The user's explicit wish.
     virtual std::optional<Encoding> ToldEncoding() const = 0;

@@ -35,6 +35,8 @@ fs::path HeaderOf(const fs::path& unit) {
 
 PlainIde::PlainIde() {
     RegisterGlottaClasses();
+    design_.ListForms = [this] { return OpenForms(); };
+    design_.UseForm = [this](const std::string& name, const auto& use) { return WithForm(name, use); };
 }
 PlainIde::~PlainIde() {
     wizards_.UnloadAll();
@@ -159,6 +161,31 @@ std::vector<std::string> PlainIde::NamesIn(const std::string& formFile) {
     } catch (const Error&) {
         return {}; // its own module tells of a damaged form
     }
+}
+
+std::vector<TComponent*> PlainIde::OpenForms() const {
+    std::vector<TComponent*> roots;
+    for (const Entry& entry : modules_)
+        if (auto* module = dynamic_cast<PlainModule*>(entry.module.get()); module && module->Form())
+            roots.push_back(&module->Form()->Tree().Root());
+    return roots;
+}
+
+// A form that is only in the project is read for the look, and not opened.
+bool PlainIde::WithForm(const std::string& name, const std::function<void(TComponent& root)>& use) {
+    if (auto* open = dynamic_cast<PlainModule*>(FindFormModule(name))) {
+        use(open->Form()->Tree().Root());
+        return true;
+    }
+    for (PlainProject* project : Projects())
+        for (const IOTAModuleInfo& info : project->Modules()) {
+            if (info.formFile.empty() || !SameText(info.formName, name)) continue;
+            FormFile file = FormFile::Parse(files_.Read(PathFromText(info.formFile)), info.formFile);
+            ComponentTree tree(file, {});
+            use(tree.Root());
+            return true;
+        }
+    return false;
 }
 
 bool PlainIde::HasForm(const FormNames& names) {

@@ -101,6 +101,9 @@ private:
     bool HasForm(const FormNames& names) override;
     void RenameForm(const IOTAModule& module, const FormNames& from, const FormNames& to) override;
     std::vector<PlainSourceEditor*> ProjectSources() override;
+    std::vector<std::string> RequiredUnits(TComponent& component, IDesigner& designer) override {
+        return design_.RequiredUnits(component, designer);
+    }
     void AddProblem(std::string problem) override {
         problems_.push_back(std::move(problem));
         if (onProblem) onProblem(problems_.back());
@@ -116,6 +119,8 @@ private:
     // The text that declares the form's class.
     std::string DeclarationOf(PlainProject& project, const IOTAModuleInfo& form);
     std::vector<std::string> DescendantFiles(const std::string& formClass);
+    std::vector<TComponent*> OpenForms() const;
+    bool WithForm(const std::string& name, const std::function<void(TComponent& root)>& use);
     std::vector<std::string> NamesIn(const std::string& formFile);
     std::string TextOf(const std::filesystem::path& file, std::optional<Encoding> hint);
     void ReadProjectAgain(IOTAModule& module);

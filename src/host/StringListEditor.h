@@ -29,7 +29,10 @@ class TStringListProperty : public TClassProperty {
 public:
     TStringListProperty(DesignPlace place, TComponent& component, PropertyInfo property, Ui* ui)
         : TClassProperty(place, component, std::move(property)), ui_(*ui) {}
-    TPropertyAttributes GetAttributes() const override { return DialogOnly(TClassProperty::GetAttributes()); }
+    // One component's: the dialog shows the lines of one.
+    TPropertyAttributes GetAttributes() const override {
+        return DialogOnly(TClassProperty::GetAttributes()) & ~TPropertyAttributes(paMultiSelect);
+    }
     void Edit() override;
 
 private:

@@ -17,6 +17,7 @@ protected:
     TComponent& Component() const { return component_; }
     const PropertyInfo& Property() const { return property_; }
     IDesigner& Designer() const { return place_.designer; }
+    IDesignServices& Services() const { return place_.services; }
     void Modified() { place_.designer.Modified(); }
 
 private:
@@ -58,13 +59,17 @@ public:
                paVolatileSubProperties;
     }
     std::string GetValue() const override;
-    // Nothing when empty. Throws Error when the form has no such component of the property's type.
+    // Nothing when empty; Form.Component for one of another form. Throws Error when there is no such component of the
+    // property's type.
     void SetValue(const std::string& value) override;
     std::vector<std::string> GetValues() const override;
 
 protected:
     // Whether the component may be referred to.
     virtual bool CheckComponent(const TComponent& candidate) const;
+
+private:
+    std::string Checked(const TComponent& root, std::string_view name) const;
 };
 
 class TComponentEditor : public IComponentEditor {

@@ -105,6 +105,12 @@ public:
     // not among them.
     virtual std::vector<std::unique_ptr<IProperty>> GetComponentProperties(TComponent& component,
                                                                            IDesigner& designer) = 0;
+    // The open forms, whose components may be referred to as Form.Component.
+    virtual std::vector<TComponent*> OpenForms() { return {}; }
+    // Lets `use` look at the form of that name, open or only in the project. False when there is none.
+    virtual bool WithForm(const std::string& /*name*/, const std::function<void(TComponent& root)>& /*use*/) {
+        return false;
+    }
 };
 
 } // namespace glotta

@@ -20,7 +20,9 @@ bool IsWindowed(const TComponent& component) {
 
 bool IsControl(const TComponent& component) {
     if (component.InheritsFrom("TControl")) return true;
-    return !IsKnown(component) && component.Node().Find("Width") && component.Node().Find("Height");
+    if (IsKnown(component)) return false;
+    if (component.Node().kind == FormNodeKind::Inline) return true; // a frame
+    return component.Node().Find("Width") && component.Node().Find("Height");
 }
 
 ComponentKind KindOf(const TComponent& component) {
