@@ -24,15 +24,17 @@ void AppendNumber(std::string& bytes, std::size_t value) {
     bytes += static_cast<char>(value);
 }
 
-void AppendText(std::string& bytes, const std::string& text) {
+void AppendText(std::string& bytes, std::string_view text) {
     AppendNumber(bytes, text.size());
     bytes += text;
 }
 
-void AppendTexts(std::string& bytes, const std::vector<std::string>& texts, std::size_t first = 0) {
-    AppendNumber(bytes, texts.size() - first);
-    for (; first < texts.size(); ++first)
-        AppendText(bytes, texts[first]);
+void AppendRecord(std::string& bytes, std::string_view record) {
+    RecordReader fields(record);
+    AppendText(bytes, fields.Next());
+    AppendNumber(bytes, static_cast<std::size_t>(std::count(record.begin(), record.end(), ItemDelimiter)));
+    while (!fields.AtEnd())
+        AppendText(bytes, fields.Next());
 }
 
 std::string FormBytes(const std::string& name, const FormTranslations& translations) {
@@ -40,14 +42,13 @@ std::string FormBytes(const std::string& name, const FormTranslations& translati
     AppendText(bytes, name);
     AppendNumber(bytes, static_cast<std::size_t>(translations.languages.count));
     AppendNumber(bytes, static_cast<std::size_t>(translations.languages.active));
-    AppendTexts(bytes, translations.languages.names);
+    AppendNumber(bytes, translations.languages.names.size());
+    for (const std::string& language : translations.languages.names)
+        AppendText(bytes, language);
     for (const std::vector<std::string>& records : translations.records) {
         AppendNumber(bytes, records.size());
-        for (const std::string& record : records) {
-            const std::vector<std::string> fields = RecordFields(record);
-            AppendText(bytes, fields[0]);
-            AppendTexts(bytes, fields, 1);
-        }
+        for (const std::string& record : records)
+            AppendRecord(bytes, record);
     }
     return bytes;
 }
@@ -107,12 +108,12 @@ public:
         return count;
     }
 
-    std::string Text() {
+    std::string_view Text() {
         const std::size_t length = Number(), begin = at_;
         const std::string_view bytes = Bytes(length);
         if (const std::size_t bad = FindMalformed(bytes); bad < bytes.size())
             Fail(begin + bad, "this is no UTF-8");
-        return std::string(bytes);
+        return bytes;
     }
 
 private:
@@ -121,11 +122,15 @@ private:
     std::size_t at_ = 0;
 };
 
-std::string ReadRecord(Reader& in) {
-    std::string record = JoinFields({in.Text()});
-    for (std::size_t texts = in.Count(); texts > 0; --texts)
-        AppendField(record, in.Text());
-    return record;
+void ReadRecords(Reader& in, std::vector<std::string>& records) {
+    std::string record; // grows once for all
+    for (std::size_t left = in.Count(); left > 0; --left) {
+        record.clear();
+        record += JoinFields({std::string(in.Text())});
+        for (std::size_t texts = in.Count(); texts > 0; --texts)
+            AppendField(record, in.Text());
+        records.push_back(record);
+    }
 }
 
 FormTranslations ReadTranslations(Reader& in) {
@@ -136,11 +141,10 @@ FormTranslations ReadTranslations(Reader& in) {
     languages.active = static_cast<int>(in.NumberBetween(1, count, "the active language"));
     const std::size_t place = in.Place();
     for (std::size_t names = in.Count(); names > 0; --names)
-        languages.names.push_back(in.Text());
+        languages.names.emplace_back(in.Text());
     if (languages.names.size() < count) in.Fail(place, "there are more languages than names");
     for (std::vector<std::string>& records : result.records)
-        for (std::size_t left = in.Count(); left > 0; --left)
-            records.push_back(ReadRecord(in));
+        ReadRecords(in, records);
     return result;
 }
 
@@ -159,7 +163,7 @@ GlbFile::GlbFile(const std::string& fileName, std::string_view bytes) {
         if (Crc32(in.Bytes(size)) != sum) in.Fail(place, "the checksum of this form's data is wrong");
         Reader form(fileName, bytes.substr(0, begin + size));
         form.Bytes(begin);
-        const std::string name = form.Text();
+        const std::string name(form.Text());
         if (Has(name)) form.Fail(begin, "form " + name + " is there twice");
         Forms()[PlaceOf(name)].translations = ReadTranslations(form);
         if (form.Place() != begin + size) form.Fail(form.Place(), "there is more data than this form has");
@@ -168,11 +172,17 @@ GlbFile::GlbFile(const std::string& fileName, std::string_view bytes) {
 }
 
 std::string GlbFile::ToBytes() {
-    std::string bytes(Signature);
-    AppendFixed(bytes, Version);
-    AppendFixed(bytes, static_cast<std::uint32_t>(Forms().size()));
+    std::vector<std::string> forms;
+    std::size_t size = Signature.size() + 8;
     for (const Form& form : Forms()) {
-        const std::string data = FormBytes(form.name, form.translations);
+        forms.push_back(FormBytes(form.name, form.translations));
+        size += forms.back().size() + 8;
+    }
+    std::string bytes(Signature);
+    bytes.reserve(size);
+    AppendFixed(bytes, Version);
+    AppendFixed(bytes, static_cast<std::uint32_t>(forms.size()));
+    for (const std::string& data : forms) {
         AppendFixed(bytes, static_cast<std::uint32_t>(data.size()));
         AppendFixed(bytes, Crc32(data));
         bytes += data;

@@ -3,7 +3,6 @@
 #include "platform/Error.h"
 #include "platform/IntText.h"
 #include "platform/Text.h"
-#include "runtime/Record.h"
 
 namespace glotta {
 namespace {
@@ -162,8 +161,7 @@ void GltFile::ReadRecords(const GltSection& section, std::vector<std::string>& r
     for (const GltLine& line : section.Lines()) {
         if (line.isComment || line.isBlank) continue;
         if (!line.hasValue) Fail(fileName_, line.number, "there is no \"=\" between identifier and texts");
-        records.push_back(At(fileName_, line.number,
-                             [&] { return JoinFields(syntax_.Fields(ReadGltName(line.name), line.value)); }));
+        records.push_back(At(fileName_, line.number, [&] { return syntax_.Read(line.name, line.value); }));
     }
 }
 
@@ -217,11 +215,8 @@ void GltFile::WriteForm(std::size_t form) {
     write(0, entries, IsLanguageEntry);
     for (std::size_t kind = 1; kind < formSections_[form].size(); ++kind) {
         entries.clear();
-        for (const std::string& record : data.translations.records[kind - 1]) {
-            const std::vector<std::string> fields = RecordFields(record);
-            const std::string name = GltName(fields[0]);
-            entries.push_back({name, name + "=" + syntax_.Value(fields)});
-        }
+        for (const std::string& record : data.translations.records[kind - 1])
+            entries.push_back(syntax_.Write(record));
         write(kind, entries, [](const GltLine& line) { return line.hasValue; });
     }
 }

@@ -110,7 +110,11 @@ GltSections::GltSections(std::string_view text) : all_(1) {
 }
 
 std::string GltSections::ToText() const {
+    std::size_t size = 0;
+    for (const GltSection& section : all_)
+        size += section.text.size();
     std::string text;
+    text.reserve(size);
     for (const GltSection& section : all_)
         text += section.text;
     return text;

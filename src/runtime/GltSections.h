@@ -1,10 +1,10 @@
 // A text of [sections] as a list of sections, each with its lines as they stand.
 #pragma once
+#include "runtime/GltSyntax.h"
+
 #include <functional>
 #include <list>
 #include <optional>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace glotta {
@@ -28,9 +28,7 @@ struct GltSection {
     std::vector<GltLine> Lines() const;
     bool HasComments() const;
 
-    struct Entry {
-        std::string name, line; // the line without its end
-    };
+    using Entry = GltSyntax::Line;
     // The entries replace the lines that `isEntry`. Everything else stays, before the entry it stood before.
     void SetEntries(const std::vector<Entry>& entries, std::string_view lineEnd,
                     const std::function<bool(const GltLine&)>& isEntry);

@@ -3,6 +3,7 @@
 #include "platform/Encoding.h"
 #include "platform/Error.h"
 #include "platform/Text.h"
+#include "runtime/Record.h"
 
 #include <charconv>
 
@@ -29,8 +30,8 @@ bool IsInvisible(char32_t c) {
     return c < ' ' || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029 || c == 0xFEFF;
 }
 
-bool IsBlankEnd(std::string_view text) {
-    return static_cast<unsigned char>(text[0]) <= ' ';
+bool IsBlank(char c) {
+    return static_cast<unsigned char>(c) <= ' ';
 }
 
 void AppendEscaped(std::string& out, std::string_view escape, char32_t c) {
@@ -62,11 +63,27 @@ bool InName(std::string_view rest, bool first, std::string_view) {
     return rest[0] == '=' || InText(rest, first, {});
 }
 
-std::string Escaped(std::string_view text, std::string_view escape, std::string_view delimiter,
-                    MustEscape must) {
-    std::string out;
-    out.reserve(text.size() + text.size() / 8);
+// Where the characters end, from `pos` on, that are written as they are under all circumstances.
+std::size_t PlainEnd(std::string_view text, std::size_t pos, char escape, char delimiter) {
+    if (pos == 0) return 0;
+    const auto isPlain = [&](char c) {
+        return c >= ' ' && c < 0x7F && c != '=' && c != escape && c != delimiter;
+    };
+    while (pos < text.size() && isPlain(text[pos]))
+        ++pos;
+    return pos == text.size() && text[pos - 1] == ' ' ? pos - 1 : pos;
+}
+
+void AppendText(std::string& out, std::string_view text, std::string_view escape, std::string_view delimiter,
+                MustEscape must) {
+    const char delimiterBegin = delimiter.empty() ? escape[0] : delimiter[0];
     for (std::size_t pos = 0; pos < text.size();) {
+        const std::size_t plain = PlainEnd(text, pos, escape[0], delimiterBegin);
+        if (plain > pos) {
+            out.append(text, pos, plain - pos);
+            pos = plain;
+            continue;
+        }
         const std::size_t begin = pos;
         const std::string_view rest = text.substr(pos);
         if (rest.starts_with(escape)) {
@@ -82,7 +99,6 @@ std::string Escaped(std::string_view text, std::string_view escape, std::string_
         else
             out += bytes;
     }
-    return out;
 }
 
 // Reads the escape at the beginning of `rest`, which becomes what follows.
@@ -120,30 +136,33 @@ void ReadEscape(std::string& out, std::string_view& rest, std::string_view escap
     throw Error("unknown escape \"" + std::string(CharPrefix(whole, 2)) + "\"");
 }
 
-// Takes the value apart at the delimiters; without a delimiter it is one text.
-std::vector<std::string> Read(std::vector<std::string> fields, std::string_view value,
-                              std::string_view escape, std::string_view delimiter) {
+// Takes one text from the beginning of `rest`. What is left begins with the delimiter or is empty; without a
+// delimiter everything is one text.
+void TakeText(std::string& text, std::string_view& rest, std::string_view escape,
+              std::string_view delimiter) {
     const char special[] = {escape[0], delimiter.empty() ? escape[0] : delimiter[0], '\xF4'};
-    fields.emplace_back();
-    for (std::string_view rest = value; !rest.empty();) {
+    while (true) {
         const std::size_t plain = std::min(rest.find_first_of({special, sizeof special}), rest.size());
-        fields.back().append(rest.substr(0, plain));
+        text.append(rest.substr(0, plain));
         rest.remove_prefix(plain);
-        if (rest.empty()) break;
+        if (rest.empty()) return;
         if (rest.starts_with(escape)) {
-            ReadEscape(fields.back(), rest, escape);
-        } else if (!delimiter.empty() && rest.starts_with(delimiter)) {
-            fields.emplace_back();
-            rest.remove_prefix(delimiter.size());
-        } else {
-            const std::string_view character = CharPrefix(rest, 1);
-            if (HasRawCharacters(character))
-                throw Error("this holds bytes that are no text in the file's encoding");
-            fields.back() += character;
-            rest.remove_prefix(character.size());
+            ReadEscape(text, rest, escape);
+            continue;
         }
+        if (!delimiter.empty() && rest.starts_with(delimiter)) return;
+        const std::string_view character = CharPrefix(rest, 1);
+        if (HasRawCharacters(character))
+            throw Error("this holds bytes that are no text in the file's encoding");
+        text += character;
+        rest.remove_prefix(character.size());
     }
-    return fields;
+}
+
+std::string ReadWhole(std::string_view value, std::string_view escape) {
+    std::string text;
+    TakeText(text, value, escape, {});
+    return text;
 }
 
 } // namespace
@@ -165,40 +184,55 @@ GltSyntax GltSyntax::For(std::string_view delimiter) {
     return syntax;
 }
 
-std::string GltSyntax::Value(const std::vector<std::string>& fields) const {
-    if (fields.size() == 1) return escape + NoTextsDigit;
-    std::string value;
-    for (std::size_t i = 1; i < fields.size(); ++i) {
-        if (i > 1) value += delimiter;
-        value += Escaped(fields[i], escape, delimiter, InText);
+GltSyntax::Line GltSyntax::Write(std::string_view record) const {
+    RecordReader fields(record);
+    Line result;
+    result.name = GltName(fields.Next());
+    std::string& line = result.line;
+    line.reserve(result.name.size() + record.size() + 64);
+    line.append(result.name).append("=");
+    const std::size_t begin = line.size();
+    if (fields.AtEnd()) (line += escape) += NoTextsDigit;
+    while (!fields.AtEnd()) {
+        AppendText(line, fields.Next(), escape, delimiter, InText);
+        if (!fields.AtEnd()) line += delimiter;
     }
     // Blanks at the ends are no part of a value, not even those of the delimiter.
-    if (value.empty()) return value;
-    if (IsBlankEnd(value)) value.insert(0, escape + NothingLetter);
-    if (IsBlankEnd({&value.back(), 1})) value += escape + NothingLetter;
-    return value;
+    if (begin < line.size() && IsBlank(line[begin])) line.insert(begin, escape + NothingLetter);
+    if (begin < line.size() && IsBlank(line.back())) (line += escape) += NothingLetter;
+    return result;
 }
 
-std::vector<std::string> GltSyntax::Fields(std::string id, std::string_view value) const {
-    std::vector<std::string> fields{std::move(id)};
-    if (value == escape + NoTextsDigit) return fields;
-    return Read(std::move(fields), value, escape, delimiter);
+std::string GltSyntax::Read(std::string_view name, std::string_view value) const {
+    std::string record = JoinFields({ReadGltName(name)});
+    if (value == escape + NoTextsDigit) return record;
+    record.reserve(record.size() + value.size() + 1);
+    for (std::string text;; text.clear(), value.remove_prefix(delimiter.size())) {
+        TakeText(text, value, escape, delimiter);
+        AppendField(record, text);
+        if (value.empty()) return record;
+    }
 }
 
 std::string GltSyntax::Text(std::string_view text) const {
-    return Escaped(text, escape, {}, InText);
+    std::string written;
+    AppendText(written, text, escape, {}, InText);
+    return written;
 }
 
 std::string GltSyntax::ReadText(std::string_view value) const {
-    return Read({}, value, escape, {})[0];
+    return ReadWhole(value, escape);
 }
 
 std::string GltName(std::string_view name) {
-    return name.empty() ? std::string(Backslash) + NothingLetter : Escaped(name, Backslash, {}, InName);
+    std::string written;
+    AppendText(written, name, Backslash, {}, InName);
+    if (name.empty()) written.append(Backslash) += NothingLetter;
+    return written;
 }
 
 std::string ReadGltName(std::string_view written) {
-    return Read({}, written, Backslash, {})[0];
+    return ReadWhole(written, Backslash);
 }
 
 } // namespace glotta

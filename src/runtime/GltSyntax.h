@@ -3,7 +3,6 @@
 #pragma once
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace glotta {
 
@@ -18,10 +17,13 @@ struct GltSyntax {
     // hold.
     static GltSyntax For(std::string_view delimiter);
 
-    // The texts of a record, from the second of the fields on, as one value, and back.
-    std::string Value(const std::vector<std::string>& fields) const;
-    // Gives the fields behind `id`. Throws Error that says what is wrong with the value.
-    std::vector<std::string> Fields(std::string id, std::string_view value) const;
+    // A record as a line, name=value without a line end, and back. Reading throws Error that says what is
+    // wrong.
+    struct Line {
+        std::string name, line;
+    };
+    Line Write(std::string_view record) const;
+    std::string Read(std::string_view name, std::string_view value) const;
 
     // A text on its own.
     std::string Text(std::string_view text) const;

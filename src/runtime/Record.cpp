@@ -6,10 +6,11 @@ namespace glotta {
 
 namespace {
 
-std::string Escaped(std::string_view text) {
-    if (text.find(ItemDelimiter) == text.npos && text.find(ItemEscape) == text.npos) return std::string(text);
-    std::string result;
-    result.reserve(text.size());
+void AppendEscaped(std::string& result, std::string_view text) {
+    if (text.find(ItemDelimiter) == text.npos && text.find(ItemEscape) == text.npos) {
+        result += text;
+        return;
+    }
     for (char c : text) {
         if (c == ItemDelimiter)
             (result += ItemEscape) += 'D';
@@ -18,6 +19,11 @@ std::string Escaped(std::string_view text) {
         else
             result += c;
     }
+}
+
+std::string Escaped(std::string_view text) {
+    std::string result;
+    AppendEscaped(result, text);
     return result;
 }
 
@@ -64,18 +70,26 @@ std::string RecordField(std::string_view record, int field) {
     return Unescaped(ExtractWord(field, record, ItemDelimiter));
 }
 
+std::string_view RecordReader::Next() {
+    const std::size_t end = rest_.find(ItemDelimiter);
+    const std::string_view field = rest_.substr(0, end);
+    atEnd_ = end == rest_.npos;
+    if (!atEnd_) rest_.remove_prefix(end + 1);
+    if (field.find(ItemEscape) == field.npos) return field;
+    return unescaped_ = Unescaped(field);
+}
+
 std::vector<std::string> RecordFields(std::string_view record) {
     std::vector<std::string> fields;
     fields.reserve(static_cast<std::size_t>(FieldCount(record)));
-    for (std::size_t end; (end = record.find(ItemDelimiter)) != record.npos; record.remove_prefix(end + 1))
-        fields.push_back(Unescaped(record.substr(0, end)));
-    fields.push_back(Unescaped(record));
+    for (RecordReader reader(record); !reader.AtEnd();)
+        fields.emplace_back(reader.Next());
     return fields;
 }
 
 void AppendField(std::string& record, std::string_view text) {
     record += ItemDelimiter;
-    record += Escaped(text);
+    AppendEscaped(record, text);
 }
 
 std::string JoinFields(const std::vector<std::string>& fields) {

@@ -21,6 +21,18 @@ std::string_view ExtractWord(int index, std::string_view text, char delimiter);
 // Field 1 is the identifier, field k + 1 the text in language k, each without its escapes.
 std::string RecordField(std::string_view record, int field);
 std::vector<std::string> RecordFields(std::string_view record);
+// The fields one by one, without a copy of those that have no escapes.
+class RecordReader {
+public:
+    explicit RecordReader(std::string_view record) : rest_(record) {}
+    bool AtEnd() const { return atEnd_; }
+    std::string_view Next(); // until AtEnd; valid until the next call
+
+private:
+    std::string_view rest_;
+    std::string unescaped_;
+    bool atEnd_ = false;
+};
 // The record with one more field; an empty record has one field, an empty identifier.
 void AppendField(std::string& record, std::string_view text);
 std::string JoinFields(const std::vector<std::string>& fields); // one at least

@@ -19,6 +19,13 @@ FormTranslations WellFormed(FormTranslations translations) {
 
 } // namespace
 
+std::vector<std::string> TranslationFile::FormNames() const {
+    std::vector<std::string> names;
+    for (const Form& form : forms_)
+        names.push_back(form.name);
+    return names;
+}
+
 const FormTranslations* TranslationFile::Find(std::string_view form) const {
     const auto found = places_.find(form);
     return found == places_.end() ? nullptr : &forms_[found->second].translations;

@@ -10,6 +10,7 @@ namespace glotta {
 class TranslationFile {
 public:
     virtual ~TranslationFile() = default;
+    std::vector<std::string> FormNames() const;
     // Nothing when the file does not hold the form.
     const FormTranslations* Find(std::string_view form) const;
     // Adds or replaces one form.
