@@ -20,8 +20,9 @@ struct Size {
 
 // --- containers ---
 
-constexpr std::string_view Containers[] = {"TScrollingWinControl", "TCustomPanel", "TCustomGroupBox", "TTabSheet",
-                                           "TToolWindow",          "TPage",        "TTabControl",     "TPageScroller"};
+constexpr std::string_view Containers[] = {
+    "TScrollingWinControl", "TCustomPanel", "TCustomGroupBox", "TTabSheet",
+    "TToolWindow",          "TPage",        "TTabControl",     "TPageScroller"};
 
 using ByNode = std::unordered_map<const FormNode*, TComponent*>;
 
@@ -38,17 +39,18 @@ bool HoldsControls(const TComponent& component, const ByNode& components) {
     for (const std::string_view container : Containers)
         if (component.InheritsFrom(container)) return true;
     if (component.Tree().Catalogue().Find(component.ClassName())) return false;
-    return std::any_of(component.Node().children.begin(), component.Node().children.end(), [&](const auto& child) {
-        const auto found = components.find(child.get());
-        return found != components.end() && IsControl(*found->second);
-    });
+    return std::any_of(component.Node().children.begin(), component.Node().children.end(),
+                       [&](const auto& child) {
+                           const auto found = components.find(child.get());
+                           return found != components.end() && IsControl(*found->second);
+                       });
 }
 
 // The nodes from `from` down to `node`, the latter first.
 bool PathTo(const FormNode& from, const FormNode& node, std::vector<const FormNode*>& path) {
-    const bool found = &from == &node || std::any_of(from.children.begin(), from.children.end(), [&](const auto& child) {
-                           return PathTo(*child, node, path);
-                       });
+    const bool found =
+        &from == &node || std::any_of(from.children.begin(), from.children.end(),
+                                      [&](const auto& child) { return PathTo(*child, node, path); });
     if (found) path.push_back(&from);
     return found;
 }
@@ -147,7 +149,8 @@ void PlaceControl(TComponent& component, const TComponent* selected) {
     component.SetOrdProp("Height", size.height);
     for (const char* text : {"Caption", "Text"})
         if (component.FindProperty(text)) component.SetStrProp(text, component.Name());
-    if (component.InheritsFrom("TWinControl")) component.SetOrdProp("TabOrder", NextTabOrder(container, components));
+    if (component.InheritsFrom("TWinControl"))
+        component.SetOrdProp("TabOrder", NextTabOrder(container, components));
     MoveInto(component, container, components);
 }
 
@@ -175,7 +178,8 @@ Point FreePlace(const TComponent& root, const TComponent& component) {
 } // namespace
 
 void CheckTakes(const TComponent& root, std::string_view className) {
-    if (KindOf(root) == ComponentKind::DataModule && root.Tree().Catalogue().InheritsFrom(className, "TControl"))
+    if (KindOf(root) == ComponentKind::DataModule &&
+        root.Tree().Catalogue().InheritsFrom(className, "TControl"))
         throw Error(std::string(className) + " is a control, and the data module " + root.Name() +
                     " takes only components that do not show at run time");
 }

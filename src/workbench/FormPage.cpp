@@ -12,6 +12,7 @@
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
+#include <unordered_set>
 
 namespace glotta {
 namespace {
@@ -62,6 +63,9 @@ FormPage::FormPage(PlainFormEditor& form, DesignRegistry& registry, ObjectInspec
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (!filling_ && item) form_.Designer().SelectComponent(ComponentOf(*item));
     });
+    connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (!filling_) inspector_->Show(Selection());
+    });
     connect(tree_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
         Activate(ComponentOf(*item));
     });
@@ -105,10 +109,15 @@ void FormPage::Later() {
 
 void FormPage::Refresh() {
     stale_ = false;
+    // Another one may have been selected while nobody looked: then that one alone.
+    const bool goesOn = tree_->currentItem() && ComponentOf(*tree_->currentItem()) == selected_;
+    const IDesignerSelections before = goesOn ? Selection() : IDesignerSelections();
     FillTree();
     canvas_->SetPicture(PictureOf(form_.Tree()));
     const bool there = selected_ && byNode_.contains(&selected_->Node());
-    Select(there ? selected_ : &form_.Tree().Root());
+    if (!there) selected_ = &form_.Tree().Root();
+    SelectAgain(goesOn && there ? before : IDesignerSelections{selected_});
+    Select(selected_);
 }
 
 // --- the tree ---
@@ -139,18 +148,30 @@ void FormPage::AddNode(QTreeWidgetItem& parent, const FormNode& node, int depth)
         AddNode(*item, *child, depth + 1);
 }
 
+void FormPage::SelectAgain(const IDesignerSelections& selection) {
+    filling_ = true;
+    const std::unordered_set<const TComponent*> selected(selection.begin(), selection.end());
+    for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
+        TComponent* const component = ComponentOf(**item);
+        if (selected.contains(component)) (*item)->setSelected(true);
+        if (component == selected_) tree_->setCurrentItem(*item, 0, QItemSelectionModel::NoUpdate);
+    }
+    filling_ = false;
+}
+
 void FormPage::Select(TComponent* component) {
     selected_ = component ? component : &form_.Tree().Root();
     if (stale_) return;
     filling_ = true;
     for (QTreeWidgetItemIterator item(tree_); *item; ++item)
         if (ComponentOf(**item) == selected_) {
-            if (*item != tree_->currentItem()) tree_->setCurrentItem(*item); // else more may be selected
+            if (*item != tree_->currentItem()) // else more may be selected
+                tree_->setCurrentItem(*item, 0, QItemSelectionModel::ClearAndSelect);
             break;
         }
     filling_ = false;
     canvas_->Select(selected_);
-    inspector_->Show(*selected_);
+    inspector_->Show(Selection());
 }
 
 // --- what packages brought ---
@@ -197,7 +218,7 @@ void FormPage::Activate(TComponent* component) {
 void FormPage::PlaceComponent(const std::string& className) {
     run_([&] {
         TComponent* placed = nullptr;
-        form_.Step([&] { placed = &form_.CreateComponent(className); });
+        form_.Step([&] { placed = &form_.CreateComponent(className, selected_); });
         form_.Designer().SelectComponent(placed);
     });
 }

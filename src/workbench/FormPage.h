@@ -34,6 +34,7 @@ protected:
 
 private:
     void Refresh(); // the form changed
+    void SelectAgain(const IDesignerSelections& selection); // in a tree that was filled anew
     void FillTree();
     void AddNode(QTreeWidgetItem& parent, const FormNode& node, int depth);
     void Activate(TComponent* component); // a double click

@@ -16,17 +16,18 @@
 namespace glotta {
 namespace {
 
-constexpr int ChoicesRole = Qt::UserRole, OtherTextsRole = Qt::UserRole + 1; // what may be typed besides
+constexpr int HasChoicesRole = Qt::UserRole, OtherTextsRole = Qt::UserRole + 1; // what may be typed besides
 
 // A value with few choices is picked from a list.
 class ValueDelegate : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    // `choicesOf` tells the choices of a row when its list drops down.
+    ValueDelegate(QObject* parent, std::function<QStringList(int row)> choicesOf)
+        : QStyledItemDelegate(parent), choicesOf_(std::move(choicesOf)) {}
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const QStringList choices = index.data(ChoicesRole).toStringList();
-        if (choices.isEmpty()) return QStyledItemDelegate::createEditor(parent, option, index);
+        if (!index.data(HasChoicesRole).toBool()) return QStyledItemDelegate::createEditor(parent, option, index);
         auto* combo = new QComboBox(parent);
-        combo->addItems(choices);
+        combo->addItems(choicesOf_(index.row()));
         combo->setEditable(index.data(OtherTextsRole).toBool());
         connect(combo, &QComboBox::activated, this, [this, combo] {
             Q_EMIT const_cast<ValueDelegate*>(this)->commitData(combo);
@@ -46,9 +47,12 @@ public:
         else
             QStyledItemDelegate::setModelData(editor, model, index);
     }
+
+private:
+    std::function<QStringList(int row)> choicesOf_;
 };
 
-QTableWidget* MakeTable(QWidget* parent, const QString& name) {
+QTableWidget* MakeTable(QWidget* parent, const QString& name, std::function<QStringList(int row)> choicesOf) {
     auto* table = new QTableWidget(0, 2, parent);
     table->setObjectName(name);
     table->horizontalHeader()->hide();
@@ -59,7 +63,7 @@ QTableWidget* MakeTable(QWidget* parent, const QString& name) {
     table->setColumnWidth(0, 130);
     table->setAlternatingRowColors(true);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setItemDelegateForColumn(1, new ValueDelegate(table));
+    table->setItemDelegateForColumn(1, new ValueDelegate(table, std::move(choicesOf)));
     table->setTabKeyNavigation(false);
     return table;
 }
@@ -70,8 +74,16 @@ ObjectInspector::ObjectInspector(PlainFormEditor& form, DesignRegistry& registry
     : QWidget(parent), form_(form), registry_(registry), run_(std::move(run)) {
     pages_ = new QTabWidget(this);
     pages_->setDocumentMode(true);
-    properties_ = MakeTable(pages_, "properties");
-    events_ = MakeTable(pages_, "events");
+    const auto choicesOf = [this](bool events) {
+        return [this, events](int row) {
+            QStringList texts;
+            for (const std::string& choice : Choices(rows_[events][std::size_t(row)]))
+                texts << Q(choice);
+            return texts;
+        };
+    };
+    properties_ = MakeTable(pages_, "properties", choicesOf(false));
+    events_ = MakeTable(pages_, "events", choicesOf(true));
     pages_->addTab(properties_, "Properties");
     pages_->addTab(events_, "Events");
     filter_ = new QLineEdit(this);
@@ -96,13 +108,13 @@ ObjectInspector::ObjectInspector(PlainFormEditor& form, DesignRegistry& registry
     connect(filter_, &QLineEdit::textChanged, this, [this] { Fill(); });
 }
 
-void ObjectInspector::Show(TComponent& component) {
-    component_ = &component;
+void ObjectInspector::Show(IDesignerSelections components) {
+    components_ = std::move(components);
     Fill();
 }
 
 void ObjectInspector::Forget() {
-    component_ = nullptr;
+    components_.clear();
     for (QTableWidget* table : {properties_, events_})
         table->setRowCount(0);
     for (auto& rows : rows_)
@@ -110,7 +122,7 @@ void ObjectInspector::Forget() {
 }
 
 void ObjectInspector::Fill() {
-    if (!component_) return;
+    if (components_.empty()) return;
     FillTable(*properties_, false);
     FillTable(*events_, true);
 }
@@ -118,8 +130,8 @@ void ObjectInspector::Fill() {
 void ObjectInspector::FillTable(QTableWidget& table, bool events) {
     filling_ = true;
     std::vector<PropertyRow>& rows = rows_[events];
-    rows = PropertyRows(*component_, events, [this](const PropertyInfo& info) {
-        return registry_.PropertyEditorOf(*component_, info, form_.Designer());
+    rows = PropertyRows(components_, events, [this](TComponent& component, const PropertyInfo& info) {
+        return registry_.PropertyEditorOf(component, info, form_.Designer());
     });
     std::erase_if(rows, [&](const PropertyRow& row) {
         return !Q(row.info.name).contains(filter_->text(), Qt::CaseInsensitive);
@@ -134,11 +146,8 @@ void ObjectInspector::FillTable(QTableWidget& table, bool events) {
         name->setToolTip(Q(row.info.name + ": " + row.info.typeName));
         auto* value = new QTableWidgetItem(Q(row.text));
         value->setToolTip(Q(row.text));
-        QStringList choices;
-        for (const std::string& choice : row.choices)
-            choices << Q(choice);
-        value->setData(ChoicesRole, choices);
-        value->setData(OtherTextsRole, row.editor != nullptr);
+        value->setData(HasChoicesRole, row.hasChoices);
+        value->setData(OtherTextsRole, !row.editors.empty());
         if (!row.editable) value->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         QFont font = table.font();
         font.setBold(row.stored);
@@ -146,7 +155,7 @@ void ObjectInspector::FillTable(QTableWidget& table, bool events) {
         table.setItem(int(i), 0, name);
         table.setItem(int(i), 1, value);
         table.removeCellWidget(int(i), 1);
-        if (row.hasDialog) AddDialogButton(table, int(i));
+        if (row.HasDialog()) AddDialogButton(table, int(i));
     }
     if (current >= 0 && current < table.rowCount()) table.setCurrentCell(current, 1);
     table.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
@@ -155,11 +164,11 @@ void ObjectInspector::FillTable(QTableWidget& table, bool events) {
 }
 
 void ObjectInspector::Entered(QTableWidget& table, int row, int column) {
-    if (filling_ || column != 1 || !component_) return;
+    if (filling_ || column != 1 || components_.empty()) return;
     const PropertyRow property = rows_[&table == events_][std::size_t(row)];
     const std::string text = S(table.item(row, column)->text());
     if (text == property.text) return;
-    run_([&] { EnterValue(form_, *component_, property, text); });
+    run_([&] { EnterValue(form_, components_, property, text); });
     if (OnEntered) OnEntered();
 }
 
@@ -180,22 +189,22 @@ void ObjectInspector::AddDialogButton(QTableWidget& table, int row) {
 }
 
 void ObjectInspector::OpenDialog(int row) {
-    if (!component_ || row < 0 || row >= int(rows_[0].size())) return;
+    if (components_.empty() || row < 0 || row >= int(rows_[0].size())) return;
     const PropertyRow property = rows_[0][std::size_t(row)];
-    if (!property.hasDialog) return;
+    if (!property.HasDialog()) return;
     run_([&] {
-        form_.EditStep([&] { property.editor->Edit(); });
+        form_.EditStep([&] { property.editors.front()->Edit(); });
     });
     if (OnEntered) OnEntered();
 }
 
 void ObjectInspector::GoToEvent(const PropertyInfo& info) {
-    run_([&, info] { form_.Designer().ShowMethod(EventMethod(form_, *component_, info)); });
+    run_([&, info] { form_.Designer().ShowMethod(EventMethod(form_, components_, info)); });
 }
 
 void ObjectInspector::GoToDefaultEvent() {
-    if (!component_) return;
-    if (const auto info = DefaultEvent(*component_)) GoToEvent(*info);
+    if (components_.empty()) return;
+    if (const auto info = DefaultEvent(*components_.front())) GoToEvent(*info);
 }
 
 } // namespace glotta

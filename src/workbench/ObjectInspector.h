@@ -1,4 +1,4 @@
-// The properties and events of one component of a form, to look at and to change.
+// The properties and events of the selected components of a form, to look at and to change.
 #pragma once
 #include "host/DesignRegistry.h"
 #include "host/FormEditor.h"
@@ -18,13 +18,13 @@ public:
     // `run` runs what the person asked for, to its end or its message.
     ObjectInspector(PlainFormEditor& form, DesignRegistry& registry, Run run, QWidget* parent);
 
-    void Show(TComponent& component);
-    // To the method of the event that a double click on the component means.
+    void Show(IDesignerSelections components);
+    // To the method of the event that a double click on the first component means.
     void GoToDefaultEvent();
     QTableWidget& Properties() { return *properties_; }
     QTableWidget& Events() { return *events_; }
 
-    void Forget(); // the component and its editors
+    void Forget(); // the components and their editors
     std::function<void()> OnEntered; // a value was taken or refused
 
 private:
@@ -38,7 +38,7 @@ private:
     PlainFormEditor& form_;
     DesignRegistry& registry_;
     Run run_;
-    TComponent* component_ = nullptr;
+    IDesignerSelections components_;
     QTabWidget* pages_;
     QTableWidget *properties_, *events_;
     QLineEdit* filter_;

@@ -4,6 +4,8 @@
 #include "platform/Text.h"
 
 #include <charconv>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace glotta {
 namespace {
@@ -114,59 +116,118 @@ void SetEvent(PlainFormEditor& form, TComponent& component, const PropertyInfo& 
 
 // What a registered editor says of its property goes before what its value says.
 void AskEditor(PropertyRow& row, std::unique_ptr<IProperty> editor) {
-    const TPropertyAttributes attributes = editor->GetAttributes();
+    row.attributes = editor->GetAttributes();
     row.text = editor->GetValue();
-    row.editable = !(attributes & paReadOnly);
-    row.hasDialog = attributes & paDialog;
-    row.choices = attributes & paValueList ? editor->GetValues() : std::vector<std::string>();
-    if (attributes & paSortList)
-        std::sort(row.choices.begin(), row.choices.end(),
-                  [](const std::string& a, const std::string& b) { return CompareText(a, b) < 0; });
-    row.editor = std::move(editor);
+    row.editable = !(row.attributes & paReadOnly);
+    row.hasChoices = row.attributes & paValueList;
+    row.editors.push_back(std::move(editor));
 }
 
-} // namespace
-
-std::vector<PropertyRow> PropertyRows(const TComponent& component, bool events, const EditorOf& editorOf) {
+std::vector<PropertyRow> RowsOf(TComponent& component, bool events, const EditorOf& editorOf) {
     std::vector<PropertyRow> rows;
-    if (!events)
-        rows.push_back({{"Name", "TComponentName", TTypeKind::tkLString}, component.Name(), true, true, {}, {}});
+    if (!events) {
+        PropertyRow name;
+        name.info = {"Name", "TComponentName", TTypeKind::tkLString};
+        name.text = component.Name();
+        name.stored = name.editable = true;
+        rows.push_back(std::move(name));
+    }
     for (PropertyInfo& info : component.PublishedProperties()) {
         if ((info.kind == TTypeKind::tkMethod) != events || SameText(info.name, "Name")) continue;
-        PropertyRow row{std::move(info), {}, false, false, {}, {}};
+        PropertyRow row;
+        row.info = std::move(info);
         const FormProperty* stored = component.Node().Find(row.info.name);
         row.stored = stored || component.Node().Find(row.info.name + ".Strings");
         if (stored) row.text = TextOf(stored->value);
         row.editable = IsSimple(row.info);
-        if (IsBoolean(row.info, stored)) row.choices = {"False", "True"};
-        if (auto editor = editorOf(row.info)) AskEditor(row, std::move(editor));
+        row.hasChoices = IsBoolean(row.info, stored);
+        if (auto editor = editorOf(component, row.info)) AskEditor(row, std::move(editor));
         rows.push_back(std::move(row));
     }
-    std::stable_sort(rows.begin() + (events ? 0 : 1), rows.end(),
+    return rows;
+}
+
+// A name is one component's alone.
+bool IsForMany(const PropertyRow& row) {
+    return row.info.name != "Name" && (row.editors.empty() || row.attributes & paMultiSelect);
+}
+
+// Keeps what the rows of one more component have in common with these.
+void Join(std::vector<PropertyRow>& rows, std::vector<PropertyRow> others) {
+    std::unordered_map<std::string_view, PropertyRow*, TextHash, TextEqual> byName;
+    for (PropertyRow& other : others)
+        byName.emplace(other.info.name, &other);
+    std::erase_if(rows, [&](PropertyRow& row) {
+        const auto found = byName.find(row.info.name);
+        if (found == byName.end()) return true;
+        PropertyRow& other = *found->second;
+        if (!IsForMany(other) || other.info.kind != row.info.kind || other.editors.empty() != row.editors.empty())
+            return true;
+        if (other.text != row.text) row.text.clear();
+        row.stored = row.stored || other.stored;
+        row.editable = row.editable && other.editable;
+        row.hasChoices = row.hasChoices && other.hasChoices;
+        std::move(other.editors.begin(), other.editors.end(), std::back_inserter(row.editors));
+        return false;
+    });
+}
+
+} // namespace
+
+std::vector<PropertyRow> PropertyRows(const IDesignerSelections& components, bool events, const EditorOf& editorOf) {
+    if (components.empty()) return {};
+    std::vector<PropertyRow> rows = RowsOf(*components.front(), events, editorOf);
+    const bool hasName = components.size() == 1 && !events;
+    if (components.size() > 1) std::erase_if(rows, [](const PropertyRow& row) { return !IsForMany(row); });
+    for (std::size_t i = 1; i < components.size(); ++i)
+        Join(rows, RowsOf(*components[i], events, editorOf));
+    std::stable_sort(rows.begin() + (hasName ? 1 : 0), rows.end(),
                      [](const PropertyRow& a, const PropertyRow& b) { return CompareText(a.info.name, b.info.name) < 0; });
     return rows;
 }
 
-void EnterValue(PlainFormEditor& form, TComponent& component, const PropertyRow& row, const std::string& text) {
+std::vector<std::string> Choices(const PropertyRow& row) {
+    if (row.editors.empty()) return row.hasChoices ? std::vector<std::string>{"False", "True"} : std::vector<std::string>();
+    std::vector<std::string> choices = row.editors.front()->GetValues();
+    for (std::size_t i = 1; i < row.editors.size(); ++i) {
+        const std::vector<std::string> others = row.editors[i]->GetValues();
+        const std::unordered_set<std::string> known(others.begin(), others.end());
+        std::erase_if(choices, [&](const std::string& choice) { return !known.contains(choice); });
+    }
+    if (row.attributes & paSortList)
+        std::sort(choices.begin(), choices.end(),
+                  [](const std::string& a, const std::string& b) { return CompareText(a, b) < 0; });
+    return choices;
+}
+
+void EnterValue(PlainFormEditor& form, const IDesignerSelections& components, const PropertyRow& row,
+                const std::string& text) {
     const PropertyInfo& info = row.info;
     form.Step([&] {
-        if (row.editor)
-            row.editor->SetValue(text);
-        else if (info.kind == TTypeKind::tkMethod)
-            SetEvent(form, component, info, text);
-        else if (info.name == "Name")
-            form.Designer().RenameComponent(component, text);
-        else
-            SetProperty(component, info, text);
+        for (const auto& editor : row.editors)
+            editor->SetValue(text);
+        if (!row.editors.empty()) return;
+        for (TComponent* component : components) {
+            if (info.kind == TTypeKind::tkMethod)
+                SetEvent(form, *component, info, text);
+            else if (info.name == "Name")
+                form.Designer().RenameComponent(*component, text);
+            else
+                SetProperty(*component, info, text);
+        }
     });
 }
 
-std::string EventMethod(PlainFormEditor& form, TComponent& component, const PropertyInfo& info) {
-    if (std::string method = component.GetMethodProp(info.name); !method.empty()) return method;
+std::string EventMethod(PlainFormEditor& form, const IDesignerSelections& components, const PropertyInfo& info) {
+    TComponent& first = *components.front();
+    if (std::string method = first.GetMethodProp(info.name); !method.empty()) return method;
     const std::string event = info.name.starts_with("On") ? info.name.substr(2) : info.name;
-    const bool isRoot = &component == &form.Tree().Root();
-    form.Step([&] { SetEvent(form, component, info, (isRoot ? "Form" : component.Name()) + event); });
-    return component.GetMethodProp(info.name);
+    const bool isRoot = &first == &form.Tree().Root();
+    form.Step([&] {
+        for (TComponent* component : components)
+            SetEvent(form, *component, info, (isRoot ? "Form" : first.Name()) + event);
+    });
+    return first.GetMethodProp(info.name);
 }
 
 std::optional<PropertyInfo> DefaultEvent(const TComponent& component) {

@@ -23,12 +23,18 @@ void Workbench::LoadExpert() {
     };
     if (DockWindow) ports.DockWindow = DockWindow;
     package_ = ide_->Design().NewEditorGroup();
-    expert_ = Gxreg::Register(std::move(ports));
-    Gxdialog_reg::Register(ide_->Design());
+    try {
+        expert_ = Gxreg::Register(std::move(ports));
+        Gxdialog_reg::Register(ide_->Design());
+    } catch (...) {
+        UnloadExpert();
+        throw;
+    }
 }
 
 void Workbench::UnloadExpert() {
-    ide_->Design().FreeEditorGroup(package_);
+    if (package_) ide_->Design().FreeEditorGroup(package_);
+    package_ = 0;
     ide_->PackageWizards().UnloadAll();
 }
 

@@ -220,6 +220,64 @@ TEST(Designer, InspectorOffersDialogsAndDropDowns) {
     EXPECT_EQ(desk.messages, "");
 }
 
+TEST(Designer, SeveralComponentsAreEditedAtOnce) {
+    Desk desk;
+    const auto pick = [&](std::initializer_list<const char*> names) {
+        QTreeWidget& tree = desk.page->Components();
+        tree.clearSelection();
+        for (const char* name : names)
+            for (QTreeWidgetItem* item : tree.findItems(Q(std::string(name) + ":"), Qt::MatchStartsWith | Qt::MatchRecursive))
+                item->setSelected(true);
+        desk.Idle();
+    };
+    const auto shown = [&](std::initializer_list<const char*> properties) {
+        std::string text;
+        QTableWidget& table = desk.page->Inspector().Properties();
+        for (const char* name : properties) {
+            const auto items = table.findItems(name, Qt::MatchExactly);
+            text += items.empty() ? "no " + std::string(name) + "; "
+                                  : std::string(name) + "=" + S(table.item(items[0]->row(), 1)->text()) + "; ";
+        }
+        return text;
+    };
+    for (const char* placed : {"TgxLabel", "TgxLabel", "TGlottaCombo"})
+        desk.Place(placed);
+    pick({"gxLabel1", "gxLabel2", "GlottaCombo1"});
+    EXPECT_EQ(shown({"Name", "Height", "Width", "Caption", "LanguageInfos"}),
+              "no Name; Height=; Width=; no Caption; no LanguageInfos; ");
+    pick({"gxLabel1", "gxLabel2"});
+    EXPECT_EQ(shown({"Name", "Height", "Caption"}), "no Name; Height=13; Caption=; ");
+    const std::string bytes = desk.form->Bytes();
+    desk.page->Inspector().Properties().item(desk.Row("Caption"), 1)->setText("Both");
+    desk.Idle();
+    EXPECT_EQ(desk.page->Selection().size(), 2u);
+    EXPECT_EQ(shown({"Caption"}), "Caption=Both; ");
+    desk.Picture(desk.window, "designer-several");
+    TComponent& root = desk.form->Tree().Root();
+    EXPECT_EQ(root.FindComponent("gxLabel1")->GetStrProp("Caption") + root.FindComponent("gxLabel2")->GetStrProp("Caption"),
+              "BothBoth");
+    // What one of them does not take, none gets.
+    for (const char* placed : {"TGlotta", "TGlotta"})
+        desk.Place(placed);
+    const auto languages = [&](const char* name, const std::vector<std::string>& names) {
+        auto& lang = dynamic_cast<TgxCustomLang&>(*root.FindComponent(name));
+        lang.SetNumberOfLanguages(int(names.size()));
+        lang.SetLangNames(names);
+    };
+    languages("Glotta1", {"English", "German"});
+    languages("Glotta2", {"German", "English", "Dutch"});
+    pick({"Glotta1", "Glotta2"});
+    EXPECT_EQ(desk.Drop("Language", "German"), "English German ");
+    EXPECT_EQ(desk.Value("Language"), "German");
+    desk.page->Inspector().Properties().item(desk.Row("Language"), 1)->setText("Dutch");
+    desk.Idle();
+    EXPECT_EQ(desk.Value("Language"), "German");
+    EXPECT_EQ(std::count(desk.messages.begin(), desk.messages.end(), '\n'), 1);
+    for (int steps = 0; steps < 4; ++steps)
+        desk.form->Undo();
+    EXPECT_EQ(desk.form->Bytes(), bytes);
+}
+
 TEST(Designer, MenusFollowTheSelection) {
     Desk desk;
     const std::string exclude = "Exclude from translation...; ", off = "Exclude from translation... (off); ";
