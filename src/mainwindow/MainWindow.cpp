@@ -49,6 +49,10 @@ TfrmGlotta::TfrmGlotta(MainWindowContext context)
         RunCommand(UiPort(), [&] { lvFormNamesColumnClick(column); });
     };
     pcForms.OnChange = [this] { CheckEnableActions(); };
+    ExternalFiles.loading = true; // what an earlier window listed
+    for (const FormsListItem& item : lvExternalFiles.List().items)
+        ExternalFiles.AddFile(item.fileName);
+    ExternalFiles.loading = false;
     BuildMenus();
     LoadState();
     try {
@@ -69,6 +73,7 @@ void TfrmGlotta::FillFromProject(IOTAProject& project) {
     std::vector<std::string> errors;
     FormsList& forms = lvFormNames.List();
     forms = ListProjectForms(project, errors);
+    ExternalFiles.SetProjectName(project.FileName());
     unitCount_ = project.Modules().size();
     for (FormsListItem& item : forms.items)
         ReadOpenForm(item);

@@ -5,6 +5,7 @@
 #include "scanner/ScanCommands.h"
 #include "scanner/Skippedstrings.h"
 #include "settings/FormStorage.h"
+#include "storage/ExternalFiles.h"
 #include "translation/FormTranslation.h"
 #include "vcl/Menu.h"
 
@@ -66,6 +67,7 @@ public:
     TMenu ToolBar{"ToolBar"};          // its items are the buttons
     TField<int> pcForms{0};            // the active page
     FormsGrid lvFormNames, lvExternalFiles;
+    TgxExternalFiles ExternalFiles; // those that lvExternalFiles lists
     std::array<TField<std::string>, 3> StatusBar; // the panels
     TField<std::vector<int>> ColumnWidths;        // of lvFormNames
     TField<std::optional<FormPlacement>> Placement;

@@ -59,7 +59,10 @@ void TfrmGlotta::AddExternalFile(const std::string& fileName) {
     const bool listed = std::any_of(items.begin(), items.end(), [&](const FormsListItem& other) {
         return SameFileName(other.fileName, item.fileName);
     });
-    if (!listed && ReadOpenForm(item)) lvExternalFiles.Add(std::move(item));
+    if (!listed && ReadOpenForm(item)) {
+        ExternalFiles.AddFile(item.fileName);
+        lvExternalFiles.Add(std::move(item));
+    }
     if (!wasOpen) context_.ide.CloseFile(fileName);
 }
 

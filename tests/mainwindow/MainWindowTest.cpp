@@ -333,6 +333,12 @@ TEST(MainWindow, ExternalFilesHaveTheirOwnPage) {
     EXPECT_TRUE(desk.ui.Transcript().ends_with("Open |Pascal Files(*.pas)|*.pas -> " + unit +
                                                "\nBringToFront TGlotta Expert (VCL Edition)\n"));
     ASSERT_EQ(window.lvExternalFiles.RowCount(), 1U);
+    const auto listed = [&] {
+        const TgxExternalFiles& external = desk.window->ExternalFiles;
+        return external.ProjectName() + "|" + JoinLines(external.Files().Items(), "|");
+    };
+    const std::string files = (desk.folder / "OrderDesk.dpr").string() + "|" + unit;
+    EXPECT_EQ(listed(), files);
     EXPECT_EQ(desk.ide.ModuleCount(), 1); // closed again
     window.pcForms.Enter(1);
     EXPECT_FALSE(window.MainMenu.Items.FindDeep("sbCaptions")->Enabled());
@@ -343,6 +349,8 @@ TEST(MainWindow, ExternalFilesHaveTheirOwnPage) {
                   window.lvExternalFiles.CellText(0, FormsGrid::Languages),
               "ExtForm 2");
     EXPECT_EQ(desk.Status(), "Forms count: 5, Units count: 7, Forms translated: 0 of 5");
+    desk.Create(); // another window shows them, too
+    EXPECT_EQ(listed(), files);
 }
 
 TEST(MainWindow, TranslationFilesAreOfTheFormsOnThePageThatShows) {
@@ -389,7 +397,7 @@ TEST(MainWindow, ProjectSettingsAreEditedForAnOpenProject) {
     window.CheckEnableActions();
     for (const ModalResult way : {ModalResult::Cancel, ModalResult::OK}) {
         desk.ui.Modal<TfrmProjectTranslationSettings>([&](TfrmProjectTranslationSettings& form) {
-            EXPECT_EQ(JoinLines(form.FormNames().Items(), " "), "AboutBox CustomerForm Data MainForm ReceiptForm");
+            EXPECT_EQ(JoinLines(form.FormNames().Items(), " "), " AboutBox CustomerForm Data MainForm ReceiptForm");
             form.cbFormForUnits.Enter("MainForm");
             form.ckbConfirm.Enter(false);
             return way;

@@ -154,7 +154,7 @@ TEST(Views, ProjectSettings) {
         EXPECT_EQ(settings.cbBaseLanguage(), "Deutsch</LANGUAGE>");
         QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier);
         EXPECT_EQ(pages.currentIndex(), 1);
-        EXPECT_EQ(In<QComboBox>(window, "cbFormForUnits").count(), 5);
+        EXPECT_EQ(In<QComboBox>(window, "cbFormForUnits").count(), 6);
         In<QComboBox>(window, "cbFormForUnits").setCurrentText("MainForm");
         Picture(window, "project-settings-project");
         desk.Click(window, "sbDictionary");
@@ -162,7 +162,15 @@ TEST(Views, ProjectSettings) {
         desk.Click(window, "btOK");
     });
     desk.Trigger(In<QMenuBar>(main, "MainMenu"), "Project Settings...");
-    EXPECT_EQ(desk.expert->ProjectSettings()->GetOptionValue("DefaultFormForUnits"), "MainForm");
+    const auto formForUnits = [&] { return desk.expert->ProjectSettings()->GetOptionValue("DefaultFormForUnits"); };
+    EXPECT_EQ(formForUnits(), "MainForm");
+    desk.uses.push_back([&](TForm&, QWidget& window) {
+        EXPECT_EQ(In<QComboBox>(window, "cbFormForUnits").currentText(), "MainForm");
+        In<QComboBox>(window, "cbFormForUnits").setCurrentIndex(0); // none
+        desk.Click(window, "btOK");
+    });
+    desk.Trigger(In<QMenuBar>(main, "MainMenu"), "Project Settings...");
+    EXPECT_EQ(formForUnits(), "");
     EXPECT_EQ(desk.messages, "");
 }
 
