@@ -123,9 +123,9 @@ bool QtUi::Execute(FileDialog& dialog) {
     const QFileInfo initial(Q(dialog.fileName));
     QFileDialog box(Parent(), Q(dialog.title), initial.path());
     box.setAcceptMode(dialog.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    box.setFileMode(dialog.save               ? QFileDialog::AnyFile
-                    : dialog.allowMultiSelect ? QFileDialog::ExistingFiles
-                                              : QFileDialog::ExistingFile);
+    box.setFileMode(dialog.save || !dialog.mustExist ? QFileDialog::AnyFile
+                    : dialog.allowMultiSelect        ? QFileDialog::ExistingFiles
+                                                     : QFileDialog::ExistingFile);
     const QStringList filters = NameFilters(dialog.filter);
     if (!filters.isEmpty()) {
         box.setNameFilters(filters);
