@@ -97,7 +97,7 @@ ModalResult EditComboSettings(Ui& ui, TGlottaCombo& combo, const VisitForm& othe
         names.push_back(infos[i].languageName);
     TfrmGlottaComboEditor form(ui, names, std::move(infos));
     const ModalResult result = ui.ShowModal(form);
-    if (result == ModalResult::OK) combo.SetLanguageInfos(form.Infos());
+    if (result == ModalResult::OK && form.Infos() != combo.LanguageInfos()) combo.SetLanguageInfos(form.Infos());
     return result;
 }
 

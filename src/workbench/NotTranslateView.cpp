@@ -1,6 +1,9 @@
 #include "editors/Dntcedit.h"
 #include "ui_NotTranslateView.h"
+#include "workbench/Placement.h"
 #include "workbench/Views.h"
+
+#include <algorithm>
 
 namespace glotta {
 
@@ -31,15 +34,41 @@ public:
     }
 
 private:
-    void Restore(const TfrmNotTranslate::Placement& place) {
-        resize(place.width.value_or(width()), place.height.value_or(height()));
-        if (place.left && place.top) move(*place.left, *place.top);
+    void Restore(const TfrmNotTranslate::Placement& stored) {
+        FormPlacement place = PlacementOf(*this);
+        place.width = stored.width.value_or(width());
+        place.height = stored.height.value_or(height());
+        resize(place.width, place.height);
+        if (stored.left && stored.top) {
+            place.left = *stored.left;
+            place.top = *stored.top;
+            Place(*this, place);
+        }
+        if (stored.leftWidth) controls.pnLeft->setFixedWidth(std::clamp(*stored.leftWidth, 60, width() - 140));
+        widthOfStored_ = width();
     }
 
-    // The column of buttons stays in the middle, whatever width the left list had.
-    void Moved() override {
-        form.Place.Enter({width(), height(), y(), x(), controls.pnLeft->width()});
+    void showEvent(QShowEvent* event) override {
+        WindowOf::showEvent(event);
+        Moved();
     }
+
+    // From the first new width on, the column of buttons is in the middle again.
+    void resizeEvent(QResizeEvent* event) override {
+        if (event->size().width() != widthOfStored_) {
+            controls.pnLeft->setMinimumWidth(0);
+            controls.pnLeft->setMaximumWidth(QWIDGETSIZE_MAX);
+            layout()->activate();
+        }
+        WindowOf::resizeEvent(event);
+    }
+
+    void Moved() override {
+        const FormPlacement now = PlacementOf(*this);
+        form.Place.Enter({now.width, now.height, now.top, now.left, controls.pnLeft->width()});
+    }
+
+    int widthOfStored_ = 0;
 };
 
 } // namespace

@@ -119,6 +119,10 @@ TEST(ComboEditor, TheSourceMayStandOnAnotherForm) {
               }),
               "English,Deutsch");
     EXPECT_EQ(lines([](const std::string&, const auto&) {}), "Own");
+    Desk none("    GlottaDispatcher = Data.Dispatcher1\r\n");
+    const std::string before = none.file.Write();
+    none.Edit([](TfrmGlottaComboEditor&) { return ModalResult::OK; });
+    EXPECT_EQ(none.file.Write(), before);
 }
 
 TEST(ComboEditor, WhatDidNotChangeStaysByteForByte) {

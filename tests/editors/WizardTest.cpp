@@ -354,6 +354,8 @@ TEST(Wizard, QuestionsBothWays) {
     configure(wizard.btnConfigureDispatcher, ModalResult::Cancel);
     configure(wizard.btnConfigureDispatcher, ModalResult::OK);
     EXPECT_EQ(languages("GlottaDispatcher2"), "English,German,Language N3,Language N4,Last One");
+    EXPECT_NE(desk.File("1").find("'Last One'"), std::string::npos);
+    EXPECT_EQ(desk.OpenUnits(), "");
     wizard.rbSetManually.Execute();
     configure(wizard.btnConfigureLanguages, ModalResult::Cancel);
     configure(wizard.btnConfigureLanguages, ModalResult::OK);
