@@ -38,7 +38,11 @@ public:
 
     std::string FileName() const override { return fileName_; }
     bool Modified() const override { return history_.Modified(); }
-    void Show() override { onShow_(); }
+    void Show() override {
+        onShow_();
+        if (OnShow) OnShow();
+    }
+    std::function<void()> OnShow; // the window's: the form itself is wanted, not its unit
     IOTAModule& Module() override { return module_; }
     IOTAComponent* GetRootComponent() override { return &rootHandle_; }
     TComponent& CreateComponent(const std::string& className) override { return CreateComponent(className, nullptr); }

@@ -44,7 +44,7 @@ constexpr HostCommand Commands[] = {
     {"ComponentMenu", "ComponentUnloadItem", "&Unload TGlotta Expert", "", "", &W::UnloadExpertClick, &W::CanUnloadExpert},
     {"ToolsMenu", "ToolsCheckItem", "&Check Files on Disk", "", "Look for open files that other programs changed", &W::CheckDisk, &W::HasPage},
     {"ToolsMenu", "ToolsSeparator1", "-"},
-    {"HelpMenu", "HelpContentsItem", "&Contents", "", "What the expert's windows do", &W::HelpClick},
+    {"HelpMenu", "HelpContentsItem", "&Contents", "F1", "What the expert's windows do", &W::HelpClick},
     {"HelpMenu", "HelpAboutItem", "&About Workbench...", "", "", &W::AboutClick}};
 
 } // namespace

@@ -44,8 +44,11 @@ void HostWindow::OpenProjectClick() {
 }
 
 bool HostWindow::OpenProject(const std::string& fileName) {
+    const std::filesystem::path path = std::filesystem::absolute(PathFromText(fileName));
+    const std::string file = PathText(path);
+    std::error_code ignored;
+    if (!std::filesystem::exists(path, ignored)) throw Error(file + " does not exist"); // what is open stays so
     if (!CloseProject()) return false;
-    const std::string file = PathText(std::filesystem::absolute(PathFromText(fileName)));
     IOTAModule& opened = ide_.OpenProject(file);
     project_ = &opened;
     tree_->ShowProject(&opened);
@@ -212,12 +215,16 @@ void HostWindow::ToFocus(const char* slot) {
 
 bool HostWindow::CanUndo() const {
     PlainFormEditor* form = HasPage() ? Page()->ShownForm() : nullptr;
-    return form ? form->CanUndo() : HasCode();
+    if (form) return form->CanUndo();
+    CodeEditor* code = Code();
+    return code && code->Source().Buffer().NewestStep() != 0;
 }
 
 bool HostWindow::CanRedo() const {
     PlainFormEditor* form = HasPage() ? Page()->ShownForm() : nullptr;
-    return form ? form->CanRedo() : HasCode();
+    if (form) return form->CanRedo();
+    CodeEditor* code = Code();
+    return code && code->Source().Buffer().UndoneStep() != 0;
 }
 
 void HostWindow::UndoClick() {

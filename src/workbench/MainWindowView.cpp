@@ -5,6 +5,7 @@
 #include "workbench/Placement.h"
 #include "workbench/Views.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
@@ -16,7 +17,7 @@ namespace {
 class MainWindowView : public WindowOf<QMainWindow, Ui_MainWindowView, TfrmGlotta> {
 public:
     MainWindowView(TfrmGlotta& f, Ui& ui, QWidget* parent)
-        : WindowOf(f, ui, parent), menu_(std::make_unique<MenuAdapter>(*controls.MainMenu, form.MainMenu)),
+        : WindowOf(f, ui, parent), menu_(std::make_unique<MenuAdapter>(*controls.MainMenu, form.MainMenu, false)),
           buttons_(std::make_unique<MenuAdapter>(*controls.ToolBar, form.ToolBar)) {
         auto& c = controls;
         setWindowFlag(Qt::Window);
@@ -43,6 +44,23 @@ public:
     }
     void Moved() override {
         if (isWindow()) form.Placement.Enter(PlacementOf(*this));
+    }
+
+protected:
+    // The host has many of these keys for commands of its own. Docked in it, this window's are meant while the
+    // focus is in here.
+    bool event(QEvent* event) override {
+        const bool asks = event->type() == QEvent::ShortcutOverride;
+        QAction* const command = menu_ && (asks || event->type() == QEvent::KeyPress)
+                                     ? menu_->ActionOf(static_cast<QKeyEvent*>(event)->keyCombination())
+                                     : nullptr;
+        if (!command) return QMainWindow::event(event);
+        event->accept();
+        if (!asks) {
+            menu_->Refresh(); // what is enabled now
+            command->trigger();
+        }
+        return true;
     }
 
 private:

@@ -60,7 +60,8 @@ void FillPopup(QMenu& menu, TMenuItem& parent, TMenuItem*& chosen) {
 
 } // namespace
 
-MenuAdapter::MenuAdapter(QWidget& bar, TMenu& menu) : bar_(bar), menu_(menu) {
+MenuAdapter::MenuAdapter(QWidget& bar, TMenu& menu, bool takesKeys)
+    : bar_(bar), menu_(menu), takesKeys_(takesKeys) {
     menu_.OnView = [this] {
         if (stale_) return;
         stale_ = true;
@@ -101,6 +102,12 @@ MenuAdapter::Shape MenuAdapter::ShapeOf() const {
 QAction* MenuAdapter::ActionOf(const TMenuItem& item) const {
     const auto found = actions_.find(&item);
     return found == actions_.end() ? nullptr : found->second;
+}
+
+QAction* MenuAdapter::ActionOf(const QKeySequence& keys) const {
+    for (const auto& [item, action] : actions_)
+        if (!keys.isEmpty() && action->shortcut() == keys) return action;
+    return nullptr;
 }
 
 void MenuAdapter::Rebuild() {
@@ -150,11 +157,14 @@ QAction* MenuAdapter::MakeAction(TMenuItem& item, QWidget& owner) {
         });
     } else {
         action = new QAction(&owner);
+        // As a key of the bar, which never has the focus, it takes none.
+        if (!takesKeys_) action->setShortcutContext(Qt::WidgetShortcut);
         Describe(*action, item);
         connect(action, &QAction::triggered, this, [this, action, chosen = &item] {
             const QPointer<QAction> shown = action;
+            const QPointer<MenuAdapter> alive = this; // the command may close the menu's window
             Chosen(chosen);
-            if (shown && IsThere(chosen)) Describe(*shown, *chosen);
+            if (alive && shown && IsThere(chosen)) Describe(*shown, *chosen);
         });
     }
     actions_[&item] = action;

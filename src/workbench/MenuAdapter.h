@@ -18,14 +18,17 @@ namespace glotta {
 // Keeps the actions of a bar as the menu's items are. Changes are taken over together, when the program is idle.
 class MenuAdapter : public QObject {
 public:
-    // The bar is a QMenuBar or a QToolBar; both must outlive the adapter's use of them.
-    MenuAdapter(QWidget& bar, TMenu& menu);
+    // The bar is a QMenuBar or a QToolBar; both must outlive the adapter's use of them. Without `takesKeys` its
+    // shortcuts are only shown: who owns the bar asks for the action of a key.
+    MenuAdapter(QWidget& bar, TMenu& menu, bool takesKeys = true);
     ~MenuAdapter() override;
 
     // Takes over now what changed.
     void Refresh();
     // The action that shows the item, nil when the item is new or gone.
     QAction* ActionOf(const TMenuItem& item) const;
+    // The action with this shortcut, enabled or not; nil when there is none.
+    QAction* ActionOf(const QKeySequence& keys) const;
 
 private:
     // The items in order, with what each one needs an action of another kind for.
@@ -40,6 +43,7 @@ private:
 
     QWidget& bar_;
     TMenu& menu_;
+    bool takesKeys_;
     bool stale_ = true;
     Shape shape_;
     std::unordered_map<const TMenuItem*, QAction*> actions_;

@@ -13,8 +13,11 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPlainTextEdit>
 
 #include <algorithm>
 #include <typeinfo>
@@ -60,6 +63,25 @@ ModalResult Unanswered(const MsgButtons& buttons) {
     return ModalResult::Cancel;
 }
 
+constexpr int LongText = 2000, ManyLines = 25;
+
+// A text that would push the buttons off the screen, such as a list of phrases, is scrolled.
+void ScrollLongText(QMessageBox& box) {
+    const QString text = box.text();
+    auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
+    auto* const layout = qobject_cast<QGridLayout*>(box.layout());
+    if (!label || !layout || (text.size() <= LongText && text.count('\n') <= ManyLines)) return;
+    auto* const memo = new QPlainTextEdit(text, &box);
+    memo->setObjectName("text");
+    memo->setReadOnly(true);
+    memo->setTabChangesFocus(true);
+    memo->setMinimumSize(480, 320);
+    int row = 0, column = 0, rows = 1, columns = 1;
+    layout->getItemPosition(layout->indexOf(label), &row, &column, &rows, &columns);
+    label->hide();
+    layout->addWidget(memo, row, column, rows, columns);
+}
+
 } // namespace
 
 QtUi::QtUi() = default;
@@ -97,6 +119,7 @@ ModalResult QtUi::MessageDlg(const std::string& text, MsgType type, const MsgBut
             QAbstractButton* const button = box.addButton(known.button);
             if (known.result == unanswered) box.setEscapeButton(button);
         }
+    ScrollLongText(box);
     box.exec();
     for (const auto& known : Buttons)
         if (box.clickedButton() && box.standardButton(box.clickedButton()) == known.button)

@@ -1,9 +1,9 @@
 #include "workbench/Theme.h"
 
+#include <QtGui/QPainter>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QProxyStyle>
 
 namespace glotta {
 namespace {
@@ -37,6 +37,24 @@ QPalette PaletteOf(bool dark) {
     return palette;
 }
 
+// The style's own sign for the buttons that a tool bar has no room for is black, which nobody sees on dark ground.
+class HostStyle : public QProxyStyle {
+public:
+    HostStyle() : QProxyStyle("Fusion") {}
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+        if (which != SP_ToolBarHorizontalExtensionButton) return QProxyStyle::standardIcon(which, option, widget);
+        QPixmap sign(64, 64);
+        sign.fill(Qt::transparent);
+        QPainter painter(&sign);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(QColor("#8a929b"), 8));
+        for (int left : {10, 32})
+            painter.drawPolyline(QPolygon({{left, 14}, {left + 18, 32}, {left, 50}}));
+        painter.end();
+        return sign;
+    }
+};
+
 } // namespace
 
 bool IsDark(const QPalette& palette) {
@@ -49,7 +67,7 @@ QColor CodePaper(bool dark) {
 
 void ApplyTheme(std::string_view theme) {
     static const bool systemIsDark = IsDark(QApplication::palette()); // before the first change
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new HostStyle);
     QApplication::setPalette(PaletteOf(theme == "Dark" || (theme == "System" && systemIsDark)));
 }
 

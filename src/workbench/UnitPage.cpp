@@ -26,6 +26,8 @@ UnitPage::UnitPage(IOTAModule& module, DesignRegistry& registry, Run run, QWidge
         addTab(holder, isForm ? QString("Form") : Q(PathText(PathFromText(editor->FileName()).filename())));
         if (auto* source = dynamic_cast<PlainSourceEditor*>(editor))
             source->OnShow = [this, i] { setCurrentIndex(i); };
+        else if (auto* form = dynamic_cast<PlainFormEditor*>(editor))
+            form->OnShow = [this, i] { setCurrentIndex(i); };
     }
     tabBar()->setVisible(count() > 1);
     connect(this, &QTabWidget::currentChanged, this, [this](int index) {
@@ -36,7 +38,10 @@ UnitPage::UnitPage(IOTAModule& module, DesignRegistry& registry, Run run, QWidge
 
 UnitPage::~UnitPage() {
     for (IOTAEditor* editor : editors_)
-        if (auto* source = dynamic_cast<PlainSourceEditor*>(editor)) source->OnShow = nullptr;
+        if (auto* source = dynamic_cast<PlainSourceEditor*>(editor))
+            source->OnShow = nullptr;
+        else if (auto* form = dynamic_cast<PlainFormEditor*>(editor))
+            form->OnShow = nullptr;
     // The pages' own farewell needs the editors, which may go right behind this.
     for (int i = 0; i < count(); ++i)
         qDeleteAll(widget(i)->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));

@@ -1,6 +1,7 @@
 // The host at work on the samples: project tree, editor and buffer, forms, saving, files that others change, the expert
 // coming and going.
 #include "expert/Glottaexp.h"
+#include "platform/Error.h"
 #include "platform/Files.h"
 #include "support/DeskFakes.h"
 #include "workbench/CodeEditor.h"
@@ -172,7 +173,13 @@ TEST(HostWindow, SaveAndTheQuestionWhenClosing) {
         CodeEditor& editor = desk.Code("Main.pas");
         QTest::keyClicks(&editor, text);
     };
+    desk.Code("Main.pas");
+    EXPECT_FALSE(desk.Item("EditUndoItem").Enabled());
     type("{1}");
+    desk.Idle();
+    EXPECT_TRUE(desk.Item("EditUndoItem").Enabled());
+    EXPECT_THROW(desk.window.OpenProject(PathText(desk.folder / "Gone.dpr")), Error); // and what is open stays
+    EXPECT_TRUE(desk.window.HasPage());
     desk.Click("FileSaveItem");
     EXPECT_EQ(desk.OnDisk("Main.pas"), "{1}" + before);
     EXPECT_FALSE(desk.Item("FileSaveItem").Enabled());
@@ -459,6 +466,46 @@ TEST(HostWindow, TheExpertDocksWhereItDidLast) {
     next.CloseProject();
     desk.bench.UnloadExpert();
     desk.Idle();
+}
+
+// Both windows have Ctrl+F, Ctrl+A and F12.
+TEST(HostWindow, KeysGoToTheDockedExpertWhileTheFocusIsInIt) {
+    Desk desk;
+    desk.Click("ComponentLoadItem");
+    desk.Click("GlottaExpertMenuItem");
+    TfrmGlotta& form = *desk.bench.Expert()->MainWindow();
+    form.Dockable1Click();
+    CodeEditor& code = desk.Code("Main.pas");
+    QWidget& list = *desk.bench.UiPort().WindowOf(form)->findChild<QWidget*>("lvFormNames");
+    std::string seen;
+    desk.bench.UiPort().UseModal = [&](TForm& modal, QWidget&) {
+        seen += modal.caption + ", ";
+        modal.Close(desk.bench.UiPort(), ModalResult::Cancel);
+    };
+    const auto press = [&](QWidget& where, QKeyCombination keys) {
+        desk.window.activateWindow();
+        where.setFocus();
+        desk.Idle();
+        QTest::keyClick(&where, keys.key(), keys.keyboardModifiers());
+        desk.Idle();
+    };
+    auto& find = *desk.window.findChild<QLineEdit*>("find");
+    const auto formShows = [&] { return desk.window.Page()->ShownForm() != nullptr; };
+    press(list, Qt::CTRL | Qt::Key_A);
+    seen += std::to_string(form.lvFormNames.SelectedCount()) + " selected, ";
+    form.lvFormNames.SelectOnly(0);
+    press(list, Qt::CTRL | Qt::Key_F);
+    seen += find.isVisible() ? "find bar, " : "";
+    press(code, Qt::Key_F12);
+    seen += formShows() ? "form, " : "";
+    press(code, Qt::Key_F12);
+    press(code, Qt::CTRL | Qt::Key_F);
+    seen += find.isVisible() ? "find bar, " : "";
+    press(list, Qt::Key_F12); // "View Form"
+    seen += formShows() ? S(desk.window.Page()->Title()) + ", " : "";
+    press(list, Qt::CTRL | Qt::Key_W);
+    seen += desk.bench.Expert()->MainWindow() ? "" : "closed";
+    EXPECT_EQ(seen, "5 selected, Find Phrase, form, find bar, About.pas, closed");
 }
 
 void OpenEveryForm(Desk& desk) {

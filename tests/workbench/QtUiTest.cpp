@@ -11,6 +11,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
 #include <gtest/gtest.h>
 
@@ -49,6 +50,23 @@ TEST(QtUi, Messages) {
     EXPECT_EQ(Ask(MsgType::Confirmation, {Yes, YesToAll, No, Cancel}, "Yes to All").substr(0, 3), "14 ");
     EXPECT_EQ(Ask(MsgType::Plain, {OK}, "OK", "TGlotta Expert (VCL Edition)"),
               "1 TGlotta Expert (VCL Edition)|0|<b>Go on?|OK ");
+}
+
+// A list of phrases may be longer than any screen: it is scrolled, and the buttons stay in reach.
+TEST(QtUi, LongMessagesLeaveTheButtonsOnTheScreen) {
+    QtUi ui;
+    std::string text;
+    for (int i = 0; i < 500; ++i)
+        text += "Phrase " + std::to_string(i) + "\r\n";
+    QTimer::singleShot(0, [&] {
+        QWidget* const box = QApplication::activeModalWidget();
+        ASSERT_NE(box, nullptr);
+        EXPECT_LT(box->height(), 500);
+        const auto* shown = box->findChild<QPlainTextEdit*>();
+        EXPECT_TRUE(shown && shown->toPlainText().contains("Phrase 499"));
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(ui.MessageDlg(text, MsgType::Confirmation, {ModalResult::Yes, ModalResult::No}, {}), ModalResult::No);
 }
 
 TEST(QtUi, InputBoxGivesNothingWhenCancelled) {
