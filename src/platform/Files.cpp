@@ -45,12 +45,14 @@ public:
             fresh_ = beside;
             if (existed_) out.TakePermissionsOf(target_);
             out.Write(bytes);
-            out.Flush();
+            out.StartFlush();
         } catch (const Error&) {
             Discard();
             throw;
         }
     }
+    // Of many files all are written before the first is flushed: the disk then gets them in one go.
+    void Flush() { SystemFile(fresh_, SystemFile::Mode::Change, target_).Flush(); }
     Replacement(Replacement&& other) noexcept
         : target_(std::move(other.target_)), fresh_(std::exchange(other.fresh_, {})),
           old_(std::exchange(other.old_, {})), existed_(other.existed_), inPlace_(other.inPlace_) {}
@@ -117,6 +119,7 @@ std::string ReadFile(const fs::path& file) {
 
 void WriteFileAtomically(const fs::path& file, std::string_view bytes) {
     Replacement replacement(file, bytes);
+    replacement.Flush();
     replacement.PutInPlace();
     FlushFolder(replacement.Target().parent_path());
 }
@@ -133,6 +136,8 @@ void FileTransaction::Commit() {
         replacements.emplace_back(entry->file, entry->bytes);
         folders.insert(replacements.back().Target().parent_path());
     }
+    for (Replacement& replacement : replacements)
+        replacement.Flush();
     try {
         for (Replacement& replacement : replacements)
             replacement.KeepOld();

@@ -30,6 +30,7 @@ constexpr std::size_t Piece = std::size_t(1) << 30;
 #ifdef _WIN32
 int Open(const std::filesystem::path& file, SystemFile::Mode mode) {
     const int flags = mode == SystemFile::Mode::Read        ? _O_RDONLY
+                      : mode == SystemFile::Mode::Change    ? _O_WRONLY
                       : mode == SystemFile::Mode::CreateNew ? _O_WRONLY | _O_CREAT | _O_EXCL
                                                             : _O_RDWR | _O_CREAT;
     return _wopen(file.c_str(), flags | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
@@ -49,6 +50,7 @@ long long SizeOf(int handle) {
 #else
 int Open(const std::filesystem::path& file, SystemFile::Mode mode) {
     const int flags = mode == SystemFile::Mode::Read        ? O_RDONLY
+                      : mode == SystemFile::Mode::Change    ? O_WRONLY
                       : mode == SystemFile::Mode::CreateNew ? O_WRONLY | O_CREAT | O_EXCL
                                                             : O_RDWR | O_CREAT;
     return open(file.c_str(), flags | O_CLOEXEC, 0666);
@@ -106,6 +108,12 @@ void SystemFile::Write(std::string_view bytes) {
         if (put <= 0) Fail(file_, put < 0 ? errno : ENOSPC);
         bytes.remove_prefix(static_cast<std::size_t>(put));
     }
+}
+
+void SystemFile::StartFlush() {
+#ifdef SYNC_FILE_RANGE_WRITE
+    sync_file_range(handle_, 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
 }
 
 void SystemFile::Flush() {

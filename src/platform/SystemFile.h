@@ -10,7 +10,7 @@ namespace glotta {
 class SystemFile {
 public:
     // CreateNew fails when the file exists; Shared creates it when it does not.
-    enum class Mode { Read, CreateNew, Shared };
+    enum class Mode { Read, Change, CreateNew, Shared };
     // Errors name the file that it is `inPlaceOf`, where there is one.
     SystemFile(const std::filesystem::path& file, Mode mode, const std::filesystem::path& inPlaceOf = {});
     ~SystemFile();
@@ -19,7 +19,8 @@ public:
 
     std::string ReadAll();
     void Write(std::string_view bytes);
-    void Flush(); // to the disk
+    void StartFlush(); // to the disk, without waiting; a hint that a Flush will come
+    void Flush();      // to the disk
     void TakePermissionsOf(const std::filesystem::path& other);
     // The handle leaves this object's care.
     int Release();
