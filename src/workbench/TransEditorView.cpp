@@ -3,6 +3,7 @@
 #include "workbench/ActionBar.h"
 #include "workbench/Views.h"
 
+#include <QtGui/QShortcut>
 #include <QtWidgets/QMenu>
 
 namespace glotta {
@@ -66,6 +67,12 @@ private:
                 button->setToolTip(shown->toolTip());
                 button->setEnabled(shown->isEnabled());
             });
+        }
+        // Enter goes on searching instead of closing the dialog.
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            auto* next = new QShortcut(key, c.edFind);
+            next->setContext(Qt::WidgetShortcut);
+            connect(next, &QShortcut::activated, this, [this] { form.acFindNext.Execute(); });
         }
         c.sgTexts->OnPopup = [popup](const QPoint& at) { popup->popup(at); };
         bind.Bind(*c.btAbout, form.btAbout);

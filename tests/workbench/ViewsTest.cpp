@@ -192,6 +192,11 @@ TEST(Views, LanguagesUnitsAndTranslations) {
         In<QPlainTextEdit>(window, "memText").setPlainText("Zweiter");
         EXPECT_EQ(editor.sgTexts.CellText(1, 2), "Zweiter");
         Picture(window, "translations");
+        Type(window, "edFind", "e");
+        const int found = editor.sgTexts.Row();
+        QTest::keyClick(&In<QLineEdit>(window, "edFind"), Qt::Key_Return);
+        EXPECT_NE(editor.sgTexts.Row(), found);
+        EXPECT_TRUE(window.isVisible());
         Type(window, "edFilter", "erst");
         EXPECT_EQ(texts.model()->rowCount(), 1);
         desk.Click(window, "btOK");
