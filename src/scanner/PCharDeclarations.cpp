@@ -28,7 +28,8 @@ bool IsWindowsPCharField(std::string_view name) {
 bool IsPCharType(std::string_view typeName) {
     static constexpr std::string_view types[] = {"PChar",  "PAnsiChar", "PWideChar", "PUTF8Char", "LPSTR",
                                                  "LPCSTR", "LPTSTR",    "LPCTSTR",   "LPWSTR",    "LPCWSTR"};
-    return typeName.size() >= 5 && (typeName[0] | 0x20) <= 'p' && IsOneOf(typeName, types);
+    if (typeName.size() < 5 || (typeName.back() | 0x20) != 'r') return false; // nearly all other types
+    return IsOneOf(typeName, types);
 }
 
 void PCharNames::AddVariable(std::string_view name, bool isPointer) {
@@ -59,22 +60,14 @@ void PCharDeclarations::BeginRoutine() {
     depth_ = 0;
 }
 
-void PCharDeclarations::TakeWord(std::string_view word, bool isStatement) {
-    target_ = {};
-    if (isStatement) {
-        word_ = word;
-        return;
-    }
+void PCharDeclarations::TakeDeclared(std::string_view word) {
     if (typeFollows_) return TakeType(word);
     if (!listGoesOn_) names_.clear();
     listGoesOn_ = false;
     names_.push_back(word);
 }
 
-void PCharDeclarations::TakeSymbol(char symbol, bool isStatement) {
-    target_ = symbol == '!' ? word_ : std::string_view();
-    word_ = {};
-    if (isStatement) return;
+void PCharDeclarations::TakeInDeclaration(char symbol) {
     switch (symbol) {
     case ',':
         listGoesOn_ = true;
@@ -99,10 +92,6 @@ void PCharDeclarations::TakeSymbol(char symbol, bool isStatement) {
     }
 }
 
-void PCharDeclarations::TakeOther() {
-    word_ = target_ = {};
-}
-
 void PCharDeclarations::TakeType(std::string_view type) {
     const bool isPChar = IsPCharType(type);
     for (const std::string_view name : names_)
@@ -119,8 +108,7 @@ void PCharDeclarations::EndList() {
 }
 
 bool PCharDeclarations::AssignsToPChar(bool inPCharFunction) const {
-    if (target_.empty()) return false;
-    return known_.IsVariable(target_) || (inPCharFunction && SameText(target_, "Result"));
+    return assigns_ && (known_.IsVariable(word_) || (inPCharFunction && SameText(word_, "Result")));
 }
 
 } // namespace glotta

@@ -32,9 +32,20 @@ bool IsPCharType(std::string_view typeName); // of Pascal
 class PCharDeclarations {
 public:
     void BeginRoutine();
-    void TakeWord(std::string_view word, bool isStatement);
-    void TakeSymbol(char symbol, bool isStatement); // '!' is ":="
-    void TakeOther();
+    void TakeWord(std::string_view word, bool isStatement) {
+        assigns_ = false;
+        word_ = word;
+        if (!isStatement) TakeDeclared(word);
+    }
+    void TakeSymbol(char symbol, bool isStatement) { // '!' is ":="
+        assigns_ = symbol == '!' && !word_.empty();
+        if (!assigns_) word_ = {};
+        if (!isStatement) TakeInDeclaration(symbol);
+    }
+    void TakeOther() {
+        assigns_ = false;
+        word_ = {};
+    }
 
     // The next token is assigned to a variable or field that is a PChar. `inPCharFunction` tells it of the
     // variable Result.
@@ -42,6 +53,8 @@ public:
     const PCharNames& Names() const { return known_; }
 
 private:
+    void TakeDeclared(std::string_view word);
+    void TakeInDeclaration(char symbol);
     void TakeType(std::string_view type);
     void EndList();
 
@@ -52,8 +65,8 @@ private:
     std::string_view routine_;
     std::uint32_t pointers_ = 0;
     unsigned depth_ = 0, parameters_ = 0;
-    // Of the statement at hand
-    std::string_view word_, target_;
+    std::string_view word_; // directly before, or before ":="
+    bool assigns_ = false;  // ":=" is directly before
 };
 
 } // namespace glotta
