@@ -13,9 +13,14 @@ constexpr std::uint32_t Version = 1;
 
 // --- writing
 
-void AppendFixed(std::string& bytes, std::uint32_t value) {
+void PutFixed(std::string& bytes, std::size_t at, std::uint32_t value) {
     for (int shift = 0; shift < 32; shift += 8)
-        bytes += static_cast<char>(value >> shift & 0xFF);
+        bytes[at++] = static_cast<char>(value >> shift & 0xFF);
+}
+
+void AppendFixed(std::string& bytes, std::uint32_t value) {
+    bytes.resize(bytes.size() + 4);
+    PutFixed(bytes, bytes.size() - 4, value);
 }
 
 void AppendNumber(std::string& bytes, std::size_t value) {
@@ -37,8 +42,7 @@ void AppendRecord(std::string& bytes, std::string_view record) {
         AppendText(bytes, fields.Next());
 }
 
-std::string FormBytes(const std::string& name, const FormTranslations& translations) {
-    std::string bytes;
+void AppendData(std::string& bytes, const std::string& name, const FormTranslations& translations) {
     AppendText(bytes, name);
     AppendNumber(bytes, static_cast<std::size_t>(translations.languages.count));
     AppendNumber(bytes, static_cast<std::size_t>(translations.languages.active));
@@ -50,7 +54,15 @@ std::string FormBytes(const std::string& name, const FormTranslations& translati
         for (const std::string& record : records)
             AppendRecord(bytes, record);
     }
-    return bytes;
+}
+
+// About what the data takes: a length of one byte stands for each delimiter, one more for the texts' number.
+std::size_t ExpectedSize(const FormTranslations& translations) {
+    std::size_t size = 100;
+    for (const std::vector<std::string>& records : translations.records)
+        for (const std::string& record : records)
+            size += record.size() + 2;
+    return size;
 }
 
 // --- reading
@@ -172,20 +184,20 @@ GlbFile::GlbFile(const std::string& fileName, std::string_view bytes) {
 }
 
 std::string GlbFile::ToBytes() {
-    std::vector<std::string> forms;
-    std::size_t size = Signature.size() + 8;
-    for (const Form& form : Forms()) {
-        forms.push_back(FormBytes(form.name, form.translations));
-        size += forms.back().size() + 8;
-    }
+    std::size_t size = 0;
+    for (const Form& form : Forms())
+        size += ExpectedSize(form.translations);
     std::string bytes(Signature);
     bytes.reserve(size);
     AppendFixed(bytes, Version);
-    AppendFixed(bytes, static_cast<std::uint32_t>(forms.size()));
-    for (const std::string& data : forms) {
-        AppendFixed(bytes, static_cast<std::uint32_t>(data.size()));
-        AppendFixed(bytes, Crc32(data));
-        bytes += data;
+    AppendFixed(bytes, static_cast<std::uint32_t>(Forms().size()));
+    for (const Form& form : Forms()) {
+        const std::size_t head = bytes.size();
+        bytes.resize(head + 8);
+        AppendData(bytes, form.name, form.translations);
+        const std::string_view data = std::string_view(bytes).substr(head + 8);
+        PutFixed(bytes, head, static_cast<std::uint32_t>(data.size()));
+        PutFixed(bytes, head + 4, Crc32(data));
     }
     return bytes;
 }
