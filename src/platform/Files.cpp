@@ -45,14 +45,19 @@ public:
             fresh_ = beside;
             if (existed_) out.TakePermissionsOf(target_);
             out.Write(bytes);
-            out.StartFlush();
+            if (MayOpenAgain())
+                out.StartFlush();
+            else
+                out.Flush();
         } catch (const Error&) {
             Discard();
             throw;
         }
     }
     // Of many files all are written before the first is flushed: the disk then gets them in one go.
-    void Flush() { SystemFile(fresh_, SystemFile::Mode::Change, target_).Flush(); }
+    void Flush() {
+        if (MayOpenAgain()) SystemFile(fresh_, SystemFile::Mode::Change, target_).Flush();
+    }
     Replacement(Replacement&& other) noexcept
         : target_(std::move(other.target_)), fresh_(std::exchange(other.fresh_, {})),
           old_(std::exchange(other.old_, {})), existed_(other.existed_), inPlace_(other.inPlace_) {}
@@ -100,6 +105,13 @@ private:
         copy.TakePermissionsOf(target_);
         copy.Write(ReadFile(target_));
         copy.Flush();
+    }
+
+    // A file that its group may write, but not its owner, gives the fresh one such permissions, too.
+    bool MayOpenAgain() const {
+        std::error_code failed;
+        const fs::perms owner = fs::status(fresh_, failed).permissions() & fs::perms::owner_write;
+        return owner != fs::perms::none;
     }
 
     void Discard() {

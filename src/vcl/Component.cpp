@@ -143,9 +143,7 @@ TComponent& ComponentTree::Create(std::string className, std::string name) {
     CheckName(name);
     if (root_->FindComponent(name) || SameText(root_->Name(), name))
         throw Error("A component named " + name + " already exists");
-    const bool visual = catalogue_.InheritsFrom(className, "TControl");
     FormNode& node = root_->Node().AddChild(std::move(name), std::move(className));
-    if (!visual) PlaceNonVisual(node);
     TComponent& component = Adopt(node, root_);
     component.Loaded();
     return component;
@@ -185,21 +183,6 @@ void ComponentTree::Remove(TComponent& component) {
 }
 
 // A component that is not seen at run time lies on the form as an icon; it gets a place where none lies yet.
-void ComponentTree::PlaceNonVisual(FormNode& node) {
-    constexpr std::int64_t first = 8, step = 32;
-    std::unordered_set<std::int64_t> taken;
-    for (const auto& sibling : root_->Node().children) {
-        const FormProperty* left = sibling->Find("Left");
-        const FormProperty* top = sibling->Find("Top");
-        if (left && top && top->value.integer == first) taken.insert(left->value.integer);
-    }
-    std::int64_t place = first;
-    while (taken.contains(place))
-        place += step;
-    node.Set("Left", FormValue::Integer(place));
-    node.Set("Top", FormValue::Integer(first));
-}
-
 std::string ComponentTree::UniqueName(std::string_view className) const {
     std::unordered_set<std::string, TextHash, TextEqual> taken;
     taken.insert(root_->Name());

@@ -101,7 +101,6 @@ public:
 private:
     friend class FormSnapshot;
     TComponent& Adopt(FormNode& node, TComponent* owner);
-    void PlaceNonVisual(FormNode& node);
     FormFile& file_;
     const ClassCatalogue& catalogue_;
     std::string rootBase_;

@@ -70,8 +70,6 @@ TEST(CustomLang, AFreshComponentIsSavedWithItsLanguagesAndTexts) {
                             "    ActiveLanguage = 1\r\n"
                             "    Strings.Strings = (\r\n"
                             "      'IDS_0'#1'It'#39's'#13#10'h'#233're'#1)\r\n"
-                            "    Left = 8\r\n"
-                            "    Top = 8\r\n"
                             "  end\r\n"
                             "end\r\n");
 }

@@ -51,7 +51,7 @@ TEST(ComponentTree, TheRootOwnsAllButTheInsidesOfFrames) {
     EXPECT_TRUE(tree.Root().FindComponent("glotta1")->InheritsFrom("TgxCustomLang"));
 }
 
-TEST(ComponentTree, CreatesComponentsUnderFreeNamesAndPlaces) {
+TEST(ComponentTree, CreatesComponentsUnderFreeNames) {
     FormFile form = Parsed(Nested);
     ComponentTree tree(form, "TForm");
     EXPECT_EQ(tree.UniqueName("TGlotta"), "Glotta2") << "names ignore letter case";
@@ -61,8 +61,6 @@ TEST(ComponentTree, CreatesComponentsUnderFreeNamesAndPlaces) {
     const std::string expected = Nested.substr(0, Nested.size() - 4) +
                                  "  object Glotta2: TGlotta\n"
                                  "    OnChangeLanguage = Glotta2ChangeLanguage\n"
-                                 "    Left = 40\n"
-                                 "    Top = 8\n"
                                  "  end\n"
                                  "end\n";
     EXPECT_EQ(form.Write(), expected);
