@@ -113,12 +113,10 @@ int RunExclude(const GlobalOptions& global, const ExcludeOptions& options) {
     else if (!options.Changes())
         PrintLists(form.formName, lang->Name(), model);
     else
-        for (const FileChange& change : changes)
-            std::cout << ChangeText(change, project.Shown(PathText(change.file)), project.EncodingHint());
+        project.PrintChanges(changes);
     if (options.apply) project.Ide().SaveAll();
     if (options.Changes() && !options.json)
-        std::cout << changes.size() << (changes.size() == 1 ? " file " : " files ")
-                  << (options.apply ? "written\n" : "to change (--apply writes them)\n");
+        std::cout << FilesText(changes.size(), options.apply);
     return 0;
 }
 

@@ -25,4 +25,9 @@ std::string ChangeText(const FileChange& change, const std::string& shown, std::
     return UnifiedDiff(shown, Readable(change.oldBytes, shown, hint), Readable(change.newBytes, shown, hint));
 }
 
+std::string FilesText(std::size_t files, bool applied) {
+    return std::to_string(files) + (files == 1 ? " file " : " files ") +
+           (applied ? "written\n" : "to change (--apply writes them)\n");
+}
+
 } // namespace glotta

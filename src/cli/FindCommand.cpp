@@ -1,6 +1,5 @@
 // glotta find and glotta replace-phrase: a phrase in the stored translations of a project.
 #include "cli/CommandLine.h"
-#include "cli/FileChanges.h"
 #include "cli/ProjectSession.h"
 #include "cli/ScanReport.h"
 #include "platform/Error.h"
@@ -51,10 +50,7 @@ public:
         const bool refused = PrintIdentifiers(done);
         project_.PrintProblems();
         const std::vector<FileChange> changes = project_.Ide().ModifiedFiles();
-        for (const FileChange& change : changes)
-            if (!options_.json)
-                std::cout << ChangeText(change, project_.Shown(PathText(change.file)),
-                                        project_.EncodingHint());
+        if (!options_.json) project_.PrintChanges(changes);
         if (options_.apply) project_.Ide().SaveAll();
         PrintEnd(done.texts, changes.size());
         return refused ? 1 : 0;

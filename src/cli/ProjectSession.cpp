@@ -1,5 +1,6 @@
 #include "cli/ProjectSession.h"
 
+#include "cli/FileChanges.h"
 #include "platform/Error.h"
 #include "platform/Files.h"
 #include "storage/Projectsettings.h"
@@ -57,6 +58,11 @@ std::optional<Encoding> ProjectSession::EncodingHint() {
         return session_.ToldEncoding();
     auto* project = dynamic_cast<PlainProject*>(&Project());
     return project ? project->EncodingHint() : std::nullopt;
+}
+
+void ProjectSession::PrintChanges(const std::vector<FileChange>& changes) {
+    for (const FileChange& change : changes)
+        std::cout << ChangeText(change, Shown(PathText(change.file)), EncodingHint());
 }
 
 void ProjectSession::PrintProblems() {

@@ -32,6 +32,8 @@ public:
     // How the project's files are encoded where they do not tell themselves.
     std::optional<Encoding> EncodingHint();
 
+    // Prints each as a diff.
+    void PrintChanges(const std::vector<FileChange>& changes);
     // Prints what was passed over to the standard error stream.
     void PrintProblems();
 

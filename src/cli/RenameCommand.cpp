@@ -42,12 +42,10 @@ int RunRename(const GlobalOptions& global, const RenameOptions& options) {
                                           FilesToRename(project, options, form.fileName));
     project.PrintProblems();
     const std::vector<FileChange> changes = project.Ide().ModifiedFiles();
-    for (const FileChange& change : changes)
-        std::cout << ChangeText(change, project.Shown(PathText(change.file)), project.EncodingHint());
+    project.PrintChanges(changes);
     if (options.apply) project.Ide().SaveAll();
-    std::cout << lines << (lines == 1 ? " source line, " : " source lines, ") << changes.size()
-              << (changes.size() == 1 ? " file " : " files ")
-              << (options.apply ? "written\n" : "to change (--apply writes them)\n");
+    std::cout << lines << (lines == 1 ? " source line, " : " source lines, ")
+              << FilesText(changes.size(), options.apply);
     return 0;
 }
 

@@ -145,14 +145,12 @@ private:
         if (changes.empty())
             return;
         std::cout << "\n";
-        for (const FileChange& change : changes)
-            std::cout << ChangeText(change, project_.Shown(PathText(change.file)), project_.EncodingHint());
+        project_.PrintChanges(changes);
         std::cout << "\n";
     }
 
     void PrintEnd(std::size_t files) {
-        std::cout << totals_.Text() << files << (files == 1 ? " file " : " files ")
-                  << (options_.apply ? "written\n" : "to change (--apply writes them)\n");
+        std::cout << totals_.Text() << FilesText(files, options_.apply);
     }
 
     Session& session_;

@@ -127,11 +127,9 @@ private:
 
     void PrintChanges() {
         const std::vector<FileChange> changes = project_.Ide().ModifiedFiles();
-        for (const FileChange& change : changes)
-            std::cout << ChangeText(change, project_.Shown(PathText(change.file)), project_.EncodingHint());
+        project_.PrintChanges(changes);
         if (options_.apply) project_.Ide().SaveAll();
-        std::cout << changes.size() << (changes.size() == 1 ? " file " : " files ")
-                  << (options_.apply ? "written\n" : "to change (--apply writes them)\n");
+        std::cout << FilesText(changes.size(), options_.apply);
     }
 
     Session session_;
